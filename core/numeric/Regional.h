@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+
+/// How the machine writes numbers. All texts are UTF-8.
+struct RegionalSettings {
+    std::string decimalSeparator = ".";
+    std::string groupSeparator = ",";
+    std::string currencySymbol = "$";
+};
+
+/// The settings in force for the whole program; a point as decimal separator until SetRegional is called.
+[[nodiscard]] const RegionalSettings &Regional();
+void SetRegional(RegionalSettings settings);
