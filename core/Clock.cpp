@@ -1,0 +1,30 @@
+#include "core/Clock.h"
+
+#include <ctime>
+#include <utility>
+
+namespace
+{
+std::function<ClockTime()> &Source()
+{
+    static std::function<ClockTime()> source;
+    return source;
+}
+
+ClockTime MachineTime()
+{
+    const std::time_t now = std::time(nullptr);
+    const std::tm local = *std::localtime(&now);
+    return {local.tm_year + 1900, local.tm_mon + 1, local.tm_mday, local.tm_hour, local.tm_min, local.tm_sec};
+}
+} // namespace
+
+ClockTime Now()
+{
+    return Source() ? Source()() : MachineTime();
+}
+
+void SetClock(std::function<ClockTime()> clock)
+{
+    Source() = std::move(clock);
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <string_view>
+
+enum class MsgIcon : std::uint8_t { None, Critical, Question, Exclamation, Information };
+enum class MsgButtons : std::uint8_t { Ok, YesNo, YesNoCancel };
+enum class MsgAnswer : std::uint8_t { Ok, Cancel, Yes, No };
+
+inline constexpr std::string_view kProgramTitle = "Keelmark";
+
+/// Separates the sentences of a two-part message.
+inline constexpr std::string_view kTwoLineBreaks = "\n\n";
+
+/// One modal message box: plain text, never markup.
+struct Message {
+    std::string text;
+    MsgIcon icon = MsgIcon::None;
+    std::string caption = std::string(kProgramTitle);
+    MsgButtons buttons = MsgButtons::Ok;
+    MsgAnswer defaultAnswer = MsgAnswer::Ok;
+};
+
+/// Shows the box and waits for the answer. A box closed by other means than a button answers Cancel where it has
+/// that button, and Ok where it has no other.
+MsgAnswer MsgBox(const Message &message);
+
+/// A box with an OK button only. The caption is the program's title unless another is given.
+void MsgBox(std::string_view text, MsgIcon icon = MsgIcon::None, std::string_view caption = kProgramTitle);
+
+/// What shows the boxes: the program sets a window, a test a script. Without one, MsgBox throws std::logic_error.
+using MsgBoxPort = std::function<MsgAnswer(const Message &)>;
+void SetMsgBoxPort(MsgBoxPort port);

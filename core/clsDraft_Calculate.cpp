@@ -1,0 +1,187 @@
+#include "core/MsgBox.h"
+#include "core/ReturnCode.h"
+#include "core/clsDraft.h"
+
+#include <string>
+
+namespace
+{
+constexpr std::string_view kAboveTable
+    = "Value of TMD > calculated TMD does not exists in Hydrostatic data for the current ship.";
+constexpr std::string_view kBelowTable
+    = "Value of TMD < calculated TMD does not exists in Hydrostatic data for the current ship.";
+constexpr std::string_view kNoMCTCPlus50 = "The value of Hydrostatic draft corresponding to MCTC+50 is higher than the "
+                                           "value of TMD that exists in Hydrostatic Data Table.";
+constexpr std::string_view kNoMCTCMinus50 = "The value of Hydrostatic draft corresponding to MCTC-50 is lower than the "
+                                            "value of TMD that exists in Hydrostatic Data Table.";
+
+/// Density of standard sea water, t/m3, that hydrostatic tables are drawn up for.
+constexpr double kSeaWaterDensity = 1.025;
+
+Value Number(std::int16_t number)
+{
+    return number;
+}
+
+Value ZeroIfEmpty(const Value &value)
+{
+    return value.IsEmptyText() ? Number(0) : value;
+}
+
+void TellInvalidInput(std::string_view text)
+{
+    MsgBox(std::string(text).append(kTwoLineBreaks).append("Please check your input values."), MsgIcon::Critical);
+}
+} // namespace
+
+std::int32_t clsDraft::Calculate(std::int16_t mode)
+{
+    try {
+        if (mode != 1) {
+            CalculateDrafts();
+            mHydrostatics = std::make_unique<clsHydrostaticData>();
+            static_cast<void>(mHydrostatics->InitHDT(mShip.ShipID()));
+            const Value maxTMD = mHydrostatics->GetMaxTMD();
+            if (maxTMD == Value(ReturnCode::NoMaxTMD)) {
+                MsgBox("An internal error has occured while calculating draft.\n\n"
+                       "Please contact us with the error no. on the titlebar of this dialog box.",
+                       MsgIcon::Exclamation, "Keelmark10009");
+                return ReturnCode::NotCalculated;
+            }
+            if (mTrueMeanDraft > maxTMD) {
+                TellInvalidInput(kAboveTable);
+                return ReturnCode::NotCalculated;
+            }
+            // A blank draft, all marks at 0, passes through here.
+            if (Val2Dec(mTrueMeanDraft) == Number(0))
+                return ReturnCode::Calculated;
+            if (!CalculateAtTrueMeanDraft())
+                return ReturnCode::NotCalculated;
+        }
+        if (mListCorrected) {
+            if (CalculateListCorr() == ReturnCode::ListCorrectionFailed)
+                return ReturnCode::NotCalculated;
+        } else {
+            mFinalResult[4] = Number(0);
+        }
+        CalculateNetDisplacement();
+    } catch (const RuntimeError &) {
+        // The caller goes on as if all had gone well, and is meant to: the results stand as far as they came.
+        MsgBox("clsDraft::Calculate");
+    }
+    return ReturnCode::Calculated;
+}
+
+void clsDraft::CalculateDrafts()
+{
+    mFwdMean = (mFwdStbd + mFwdPort) / Number(2);
+    mMidMean = (mMidStbd + mMidPort) / Number(2);
+    mAftMean = (mAftStbd + mAftPort) / Number(2);
+    mApparentTrim = mAftMean - mFwdMean;
+
+    const Value distance = mShip.GetDistBetDraftMarks();
+    mFwdCorrection = (mShip.FwdX() * mApparentTrim) / distance;
+    mMidCorrection = (mShip.MidX() * mApparentTrim) / distance;
+    mAftCorrection = (mShip.AftX() * mApparentTrim) / distance;
+
+    mFwdTrueDraft = mFwdCorrection + mFwdMean;
+    mMidTrueDraft = mMidCorrection + mMidMean;
+    mAftTrueDraft = mAftCorrection + mAftMean;
+    mTrueTrim = mAftTrueDraft - mFwdTrueDraft;
+    mTrueMeanDraft = ((mAftTrueDraft + mFwdTrueDraft) + mMidTrueDraft * Number(6)) / Number(8);
+}
+
+bool clsDraft::CalculateAtTrueMeanDraft()
+{
+    if (!TakeBelowRow() || !TakeAboveRow() || !TakeResultantVals())
+        return false;
+
+    const clsHydrostaticData &table = *mHydrostatics;
+    mIpFactor = table.IpFactor();
+    mMCTCPlus50IpFactor = table.IfMCTCPlus50();
+    mMCTCMinus50IpFactor = table.IfMCTCMinus50();
+    mIpResult[0] = {Round(table.IpDisplacement(), 3), Round(table.IpTPC(), 3), Round(table.IpLCF(), 3),
+                    Round(table.IpMCTCPlus50(), 3), Round(table.IpMCTCMinus50(), 3)};
+    mIpResult[1] = {Round(table.Displacement(), 5), Round(table.TPC(), 3), Round(table.LCF(), 3),
+                    Round(table.MCTCPlus50(), 3), Round(table.MCTCMinus50(), 3)};
+
+    const Value trim = Val2Dec(mTrueTrim);
+    mFinalResult[0] = Round(table.Displacement(), 5);
+    // First trim correction (layer correction): 100 x trim x LCF x TPC / LBP.
+    mFinalResult[1] = (Number(100) * (trim * (table.LCF() * table.TPC()))) / mShip.LBP();
+    // Second trim correction (Nemoto): 50 x trim squared x dMCTC / LBP.
+    mFinalResult[2]
+        = (Number(50) * ((table.MCTCPlus50() - table.MCTCMinus50()) * (mTrueTrim * mTrueTrim))) / mShip.LBP();
+    mFinalResult[3] = mFinalResult[2] + mFinalResult[1];
+    return true;
+}
+
+bool clsDraft::TakeBelowRow()
+{
+    switch (mHydrostatics->getBound(mTrueMeanDraft, 0)) {
+    case ReturnCode::Success:
+        FillBoundRow(0);
+        return true;
+    case ReturnCode::DraftBelowTable:
+        TellInvalidInput(kBelowTable);
+        return false;
+    case ReturnCode::NoMCTCPlus50:
+        TellInvalidInput(kNoMCTCPlus50);
+        return false;
+    case ReturnCode::NoMCTCMinus50:
+        TellInvalidInput(kNoMCTCMinus50);
+        return false;
+    default:
+        return true;
+    }
+}
+
+bool clsDraft::TakeAboveRow()
+{
+    switch (mHydrostatics->getBound(mTrueMeanDraft, 1)) {
+    case ReturnCode::Success:
+        FillBoundRow(1);
+        for (std::size_t column = 0; column < mHDT[2].size(); ++column)
+            mHDT[2][column] = mHDT[1][column] - mHDT[0][column];
+        return true;
+    case ReturnCode::DraftAboveTable:
+        TellInvalidInput(kAboveTable);
+        return false;
+    case ReturnCode::NoMCTCPlus50:
+        TellInvalidInput(kNoMCTCPlus50);
+        return false;
+    case ReturnCode::NoMCTCMinus50:
+        TellInvalidInput(kNoMCTCMinus50);
+        return false;
+    default:
+        return true;
+    }
+}
+
+bool clsDraft::TakeResultantVals()
+{
+    const std::int32_t code = mHydrostatics->getResultantVals(mTrueMeanDraft);
+    if (code == ReturnCode::DraftAboveTable)
+        MsgBox(kAboveTable, MsgIcon::Critical);
+    else if (code == ReturnCode::DraftBelowTable)
+        MsgBox(kBelowTable, MsgIcon::Critical);
+    return code == ReturnCode::Success;
+}
+
+void clsDraft::FillBoundRow(std::size_t row)
+{
+    const clsHydrostaticData &table = *mHydrostatics;
+    mHDT[row] = {Round(table.TMD(), 3), Round(table.Displacement(), 3), Round(table.TPC(), 3),
+                 Round(table.LCF(), 3), Round(table.MCTCPlus50(), 3),   Round(table.MCTCMinus50(), 3)};
+}
+
+void clsDraft::CalculateNetDisplacement()
+{
+    // The displacement is taken with five places here, the corrections at full precision.
+    mFinalResult[5] = mFinalResult[4] + (mFinalResult[3] + ZeroIfEmpty(mIpResult[1][0]));
+    mFinalResult[7] = (mSpecificGravity * ZeroIfEmpty(mFinalResult[5])) / Value(kSeaWaterDensity);
+    mFinalResult[6] = ZeroIfEmpty(mFinalResult[7]) - mFinalResult[5];
+    mFinalResult[8] = GetTotDeductibles();
+    mFinalResult[9] = Round(ZeroIfEmpty(mFinalResult[7]) - mTotDeductibles, 5);
+    mFinalResult[10] = mShip.LightShip();
+}

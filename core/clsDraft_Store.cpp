@@ -1,0 +1,155 @@
+#include "core/DateTimeStamp.h"
+#include "core/MsgBox.h"
+#include "core/ReturnCode.h"
+#include "core/clsDraft.h"
+
+namespace
+{
+std::string Dec(const Value &value)
+{
+    return Value(value.ToDecimal()).SqlText();
+}
+} // namespace
+
+std::int32_t clsDraft::SaveDraft(std::int32_t recordID)
+{
+    if (!mToSave)
+        return ReturnCode::Success;
+    try {
+        if (mDraftMode == 0) {
+            mDraftID = GetNewDraftID();
+            gConnection->Execute(InsertStatement(recordID));
+        } else {
+            gConnection->Execute(UpdateStatement());
+        }
+        SaveDeductions();
+        return ReturnCode::Success;
+    } catch (const RuntimeError &error) {
+        return error.Number() == ErrorNumber::StoreRefusal ? ReturnCode::DuplicateDraft : ReturnCode::SaveDraftFailed;
+    }
+}
+
+std::int32_t clsDraft::GetNewDraftID()
+try {
+    Recordset highest;
+    highest.Reopen("SELECT MAX(DraftID) AS DraftID FROM DraftDetails", CursorType::Dynamic, LockType::BatchOptimistic);
+    const Value draftID = highest.Fields("DraftID");
+    return draftID.IsNull() ? 1 : (draftID + Value(std::int16_t {1})).ToLong();
+} catch (const RuntimeError &error) {
+    MsgBox(error.Description().append(kTwoLineBreaks).append("Source :  clsDraft::GetNewDraftID"), MsgIcon::Critical);
+    return 0;
+}
+
+std::string clsDraft::InsertStatement(std::int32_t recordID) const
+{
+    return "INSERT INTO DraftDetails (DraftID,RecordID, SpecificGravity,DraftType, FwdPortDraft, FwdStbdDraft,"
+           "MidshipPortDraft, MidshipStbdDraft, AftPortDraft, AftStbdDraft, ListCorrected, NetDisplacement,Comments,"
+           "[DateTime]) VALUES("
+        + std::to_string(mDraftID) + ", " + std::to_string(recordID) + ", " + Dec(mSpecificGravity) + ", "
+        + std::to_string(mDraftType) + "," + Dec(mFwdPort) + ", " + Dec(mFwdStbd) + ", " + Dec(mMidPort) + ", "
+        + Dec(mMidStbd) + ", " + Dec(mAftPort) + ", " + Dec(mAftStbd) + ", " + Value(mListCorrected).SqlText() + ", "
+        + NetDisplacement().SqlText() + ", " + Quoted(mComments) + ", "
+        + DateTimeToStamp(mDSDate + " " + mDSTime).SqlText() + ")";
+}
+
+std::string clsDraft::UpdateStatement() const
+{
+    return "UPDATE DraftDetails set SpecificGravity=" + Dec(mSpecificGravity)
+        + ",DraftType=" + std::to_string(mDraftType) + ", FwdPortDraft=" + Dec(mFwdPort)
+        + ", FwdStbdDraft=" + Dec(mFwdStbd) + ", MidshipPortDraft=" + Dec(mMidPort)
+        + ", MidshipStbdDraft=" + Dec(mMidStbd) + ", AftPortDraft=" + Dec(mAftPort) + ", AftStbdDraft=" + Dec(mAftStbd)
+        + ", ListCorrected = " + Value(mListCorrected).SqlText() + ", NetDisplacement = " + NetDisplacement().SqlText()
+        + ", Comments='" + mComments + "', [DateTime] =" + DateTimeToStamp(mDSDate + " " + mDSTime).SqlText()
+        + " WHERE DraftID = " + std::to_string(mDraftID);
+}
+
+void clsDraft::SaveDeductions()
+{
+    gConnection->Execute("DELETE FROM DeductionTrans WHERE DraftID = " + std::to_string(mDraftID));
+    if (mDeductions->RecordCount() < 1)
+        return;
+    for (mDeductions->MoveFirst(); !mDeductions->AtEnd(); mDeductions->MoveNext()) {
+        const Value quantity = mDeductions->Fields("Quantity");
+        if (quantity == Value(std::int16_t {0}))
+            mDeductions->Delete(1);
+        else
+            gConnection->Execute("INSERT INTO DeductionTrans (DraftID, ItemID, Quantity) VALUES("
+                                 + std::to_string(mDraftID) + ", " + mDeductions->Fields("ItemID").SqlText() + ", "
+                                 + quantity.SqlText() + ")");
+    }
+}
+
+std::int32_t clsDraft::GetDraft(std::int32_t recordID, const std::string &date, const std::string &time)
+try {
+    const std::string record = std::to_string(recordID);
+    std::string statement = "SELECT * FROM DraftDetails AS DD WHERE DD.RecordID = " + record
+        + " AND DD.DraftType = " + std::to_string(mDraftType);
+    if (!date.empty() || !time.empty())
+        statement += " AND [DateTime] = " + DateTimeToStamp(date + " " + time).SqlText();
+    else if (mDraftType == DraftTypeCode::Daily)
+        statement += " AND [DateTime] = (SELECT MAX([DateTime]) FROM DraftDetails WHERE RecordID = " + record
+            + " AND DraftType = 2)";
+
+    mRow = std::make_unique<Recordset>();
+    mRow->Open(statement, CursorType::Keyset, LockType::Optimistic);
+    if (mRow->RecordCount() < 1) {
+        NewDraft();
+        return ReturnCode::NoSuchDraft;
+    }
+    ReadRow();
+    ReadDeductions();
+    mDraftMode = 1;
+    mHasRecord = true;
+    static_cast<void>(Calculate(0));
+    return ReturnCode::Success;
+} catch (const RuntimeError &) {
+    return ReturnCode::GetDraftFailed;
+}
+
+void clsDraft::ReadRow()
+{
+    mDraftID = mRow->Fields("DraftID").ToLong();
+    mRecordID = mRow->Fields("RecordID").ToLong();
+    mSpecificGravity = mRow->Fields("SpecificGravity");
+    const Value stamp = mRow->Fields("DateTime");
+    mDSDate = StampToDate(stamp);
+    mDSTime = StampToTime(stamp);
+    mFwdPort = mRow->Fields("FwdPortDraft");
+    mFwdStbd = mRow->Fields("FwdStbdDraft");
+    mMidPort = mRow->Fields("MidshipPortDraft");
+    mMidStbd = mRow->Fields("MidshipStbdDraft");
+    mAftPort = mRow->Fields("AftPortDraft");
+    mAftStbd = mRow->Fields("AftStbdDraft");
+    mListCorrected = mRow->Fields("ListCorrected").ToBoolean();
+    const Value comments = mRow->Fields("Comments");
+    mComments = comments.IsNull() ? std::string() : comments.Text();
+}
+
+void clsDraft::ReadDeductions()
+{
+    mDeductions->Reopen("SELECT * FROM DeductionTrans WHERE DraftID = " + std::to_string(mDraftID), CursorType::Keyset,
+                        LockType::BatchOptimistic);
+    if (mDeductions->RecordCount() < 1) {
+        mTotDeductibles = std::int16_t {0};
+        return;
+    }
+    // Not reset first: the calculation that follows sets the total right. The screen may have left a text here.
+    if (!mTotDeductibles.IsNumber())
+        mTotDeductibles = Val2Dec(mTotDeductibles);
+    for (mDeductions->MoveFirst(); !mDeductions->AtEnd(); mDeductions->MoveNext())
+        mTotDeductibles = mTotDeductibles + mDeductions->Fields("Quantity");
+}
+
+std::int32_t clsDraft::DeleteDraft()
+try {
+    if (mDraftMode == 1) {
+        if (mDraftType == DraftTypeCode::Initial)
+            gConnection->Execute("DELETE FROM DraftParticulars WHERE RecordID = " + std::to_string(mRecordID));
+        else
+            gConnection->Execute("DELETE FROM DraftDetails AS DD WHERE DD.DraftID = " + std::to_string(mDraftID));
+    }
+    NewDraft();
+    return ReturnCode::Success;
+} catch (const RuntimeError &) {
+    return ReturnCode::DeleteDraftFailed;
+}
