@@ -59,7 +59,7 @@ std::string clsDraft::UpdateStatement() const
         + ", FwdStbdDraft=" + Dec(mFwdStbd) + ", MidshipPortDraft=" + Dec(mMidPort)
         + ", MidshipStbdDraft=" + Dec(mMidStbd) + ", AftPortDraft=" + Dec(mAftPort) + ", AftStbdDraft=" + Dec(mAftStbd)
         + ", ListCorrected = " + Value(mListCorrected).SqlText() + ", NetDisplacement = " + NetDisplacement().SqlText()
-        + ", Comments='" + mComments + "', [DateTime] =" + DateTimeToStamp(mDSDate + " " + mDSTime).SqlText()
+        + ", Comments=" + Quoted(mComments) + ", [DateTime] =" + DateTimeToStamp(mDSDate + " " + mDSTime).SqlText()
         + " WHERE DraftID = " + std::to_string(mDraftID);
 }
 

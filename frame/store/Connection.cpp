@@ -17,7 +17,7 @@ struct Closer {
 void Configure(sqlite3 *handle)
 {
     constexpr const char *kSettings
-        = "PRAGMA foreign_keys = ON; PRAGMA journal_mode = DELETE; PRAGMA synchronous = FULL";
+        = "PRAGMA foreign_keys = ON; PRAGMA journal_mode = DELETE; PRAGMA synchronous = EXTRA";
     // A name that is none must be an error, never a text.
     sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
     if (const int code = sqlite3_exec(handle, kSettings, nullptr, nullptr, nullptr); code != SQLITE_OK)

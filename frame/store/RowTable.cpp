@@ -51,6 +51,8 @@ public:
     /// Room for at least so many cells with those that there are already.
     void Enlarge(std::vector<Cell> &cells, std::size_t count)
     {
+        if (cells.size() >= count)
+            return;
         const auto fitting = std::find_if(mSpare.begin(), mSpare.end(),
                                           [count](const std::vector<Cell> &spare) { return spare.size() >= count; });
         if (fitting == mSpare.end()) {

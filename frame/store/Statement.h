@@ -10,8 +10,8 @@ struct sqlite3_stmt;
 class Statement
 {
 public:
-    /// Prepares exactly one statement. StatementFailed where it is none, has an error, or more follows it than blanks,
-    /// comments and semicolons.
+    /// Prepares exactly one statement. StatementFailed where it is none, has an error, or more follows it than blanks
+    /// and semicolons, or it holds a comment.
     Statement(sqlite3 *handle, std::string_view sql);
 
     /// True with the next row at hand, false when the statement is done. Errors as Connection::Execute.

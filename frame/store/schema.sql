@@ -1,17 +1,19 @@
--- The store of Keelmark. Numbers that are measured are REAL; keys, kinds and flags are INTEGER.
+-- The store of Keelmark. Numbers that are measured are REAL; keys, kinds and flags are INTEGER. Keys that the store gives
+-- out are never given twice, so that an open window cannot save under a ship, port or item that has taken the place of
+-- one deleted.
 
 PRAGMA application_id = 1262832717; -- "KELM"
 PRAGMA user_version = 1;
 
 CREATE TABLE Port (
-    PortID INTEGER PRIMARY KEY,
+    PortID INTEGER PRIMARY KEY AUTOINCREMENT,
     PortName TEXT NOT NULL COLLATE NOCASE,
     City TEXT,
     Country TEXT
 ) STRICT;
 
 CREATE TABLE Ship (
-    ShipID INTEGER PRIMARY KEY,
+    ShipID INTEGER PRIMARY KEY AUTOINCREMENT,
     ShipName TEXT NOT NULL COLLATE NOCASE,
     LBP REAL,
     LOA REAL,
@@ -47,7 +49,7 @@ CREATE TABLE HydrostaticDataTable (
 CREATE INDEX HydrostaticRowsOfShip ON HydrostaticDataTable (ShipID, TMD);
 
 CREATE TABLE DeductionMaster (
-    ItemID INTEGER PRIMARY KEY,
+    ItemID INTEGER PRIMARY KEY AUTOINCREMENT,
     ItemName TEXT NOT NULL COLLATE NOCASE
 ) STRICT;
 
@@ -78,7 +80,7 @@ CREATE TABLE DraftDetails (
     ListCorrected INTEGER CHECK (ListCorrected IN (0, 1)),
     NetDisplacement REAL,
     Comments TEXT,
-    DateTime INTEGER NOT NULL, -- the digits of yyyyMMddHHmm
+    DateTime INTEGER NOT NULL CHECK (DateTime BETWEEN 100000000000 AND 999999999999), -- the digits of yyyyMMddHHmm
     UNIQUE (RecordID, DraftType, DateTime)
 ) STRICT;
 

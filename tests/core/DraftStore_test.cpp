@@ -112,6 +112,23 @@ TEST_F(DraftStore, RefusesADuplicateAndWhatTheStoreCannotTake)
     EXPECT_EQ(Count("DraftDetails"), 3);
 }
 
+TEST_F(DraftStore, NoCommentReachesBeyondItself)
+{
+    Saved(DraftTypeCode::Daily, "15-03-2024 14:30");
+    Saved(DraftTypeCode::Daily, "15-03-2024 14:31");
+    for (const char *comment : {"swell at 24' -- calm later", "24' /* x", "24'; -- x", "x', FwdPortDraft='9.9", "it''s",
+                                "x', NetDisplacement='77777", "5' - '6"}) {
+        clsDraft draft = Loaded(DraftTypeCode::Daily, "15-03-2024", "14:31");
+        draft.Comments(comment);
+        EXPECT_EQ(draft.SaveDraft(mRecordID), ReturnCode::SaveDraftFailed) << comment;
+    }
+    EXPECT_EQ(Ask("SELECT count(*) FROM DraftDetails WHERE FwdPortDraft = 7.52 AND Comments = ''").ToLong(), 2);
+    clsDraft draft = Loaded(DraftTypeCode::Daily, "15-03-2024", "14:31");
+    draft.Comments("-- fenders /* 3 */ rigged");
+    EXPECT_EQ(draft.SaveDraft(mRecordID), ReturnCode::Success);
+    EXPECT_EQ(Loaded(DraftTypeCode::Daily, "15-03-2024", "14:31").Comments(), "-- fenders /* 3 */ rigged");
+}
+
 TEST_F(DraftStore, DropsQuantitiesOfZeroWhereverTheyStand)
 {
     for (const std::vector<int> &quantities : {std::vector {0, 0, 7, 0, 0, 5, 0, 0}, {0, 0, 0}, {1, 2, 3, 4}}) {
