@@ -24,7 +24,7 @@ void MsgBox(std::string_view text, MsgIcon icon, std::string_view caption)
     MsgBox(Message {.text = std::string(text), .icon = icon, .caption = std::string(caption)});
 }
 
-void SetMsgBoxPort(MsgBoxPort port)
+MsgBoxPort SetMsgBoxPort(MsgBoxPort port)
 {
-    Port() = std::move(port);
+    return std::exchange(Port(), std::move(port));
 }

@@ -31,5 +31,6 @@ MsgAnswer MsgBox(const Message &message);
 void MsgBox(std::string_view text, MsgIcon icon = MsgIcon::None, std::string_view caption = kProgramTitle);
 
 /// What shows the boxes: the program sets a window, a test a script. Without one, MsgBox throws std::logic_error.
+/// The port that was set before is handed back.
 using MsgBoxPort = std::function<MsgAnswer(const Message &)>;
-void SetMsgBoxPort(MsgBoxPort port);
+MsgBoxPort SetMsgBoxPort(MsgBoxPort port);

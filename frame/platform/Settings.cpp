@@ -1,0 +1,52 @@
+#include "frame/platform/Settings.h"
+
+#include "core/MsgBox.h"
+
+#include <QSettings>
+
+namespace
+{
+QString Wide(std::string_view text)
+{
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+std::unique_ptr<QSettings> &Port()
+{
+    static std::unique_ptr<QSettings> settings;
+    return settings;
+}
+
+QSettings &Settings()
+{
+    if (!Port())
+        Port() = std::make_unique<QSettings>(QSettings::IniFormat, QSettings::UserScope, Wide(kProgramTitle),
+                                             Wide(kProgramTitle));
+    return *Port();
+}
+
+QString Path(std::string_view section, std::string_view key)
+{
+    return Wide(section) + QLatin1Char('/') + Wide(key);
+}
+} // namespace
+
+std::string GetSetting(std::string_view section, std::string_view key, std::string_view defaultValue)
+{
+    return Settings().value(Path(section, key), Wide(defaultValue)).toString().toStdString();
+}
+
+void SaveSetting(std::string_view section, std::string_view key, std::string_view value)
+{
+    const QString path = Path(section, key);
+    // Writing a file again for nothing is what a save would take most of its time for.
+    if (Settings().contains(path) && Settings().value(path).toString() == Wide(value))
+        return;
+    Settings().setValue(path, Wide(value));
+    Settings().sync();
+}
+
+void SetSettingsPort(std::unique_ptr<QSettings> settings)
+{
+    Port() = std::move(settings);
+}

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QString>
+
+#include <memory>
+
+/// What the windows ask of the desktop.
+class Shell
+{
+public:
+    virtual ~Shell() = default;
+    /// Opens a web address or a mail link. A failure is silent.
+    virtual void OpenLink(const QString &address, const QString &workingDirectory) = 0;
+    /// Shows the help file, or "help/index.html" beside it where the file cannot be shown. A failure is silent.
+    virtual void ShowHelp(const QString &file) = 0;
+    /// Starts the calculator or the text editor of the machine. ProgramNotFound (53) where none can be started.
+    virtual void StartCalculator() = 0;
+    virtual void StartNotepad() = 0;
+};
+
+[[nodiscard]] Shell &DesktopShell();
+/// Another shell, for tests; none brings the desktop's own back.
+void SetShellPort(std::unique_ptr<Shell> shell);

@@ -1,0 +1,37 @@
+// The main function of the tests of windows: a program of its own, without a display and apart from the user's files.
+
+#include "frame/platform/Application.h"
+#include "frame/platform/Settings.h"
+#include "tests/support/FatalRecorder.h"
+
+#include <gtest/gtest.h>
+
+#include <QLocale>
+#include <QSettings>
+#include <QTemporaryDir>
+
+// Qt's libraries are built without the clean-up of exceptions: a run-time error on its way through them to the
+// Application leaves copies of mouse events behind.
+extern "C" const char *__lsan_default_suppressions();
+extern "C" const char *__lsan_default_suppressions()
+{
+    return "leak:QMutableEventPoint\nleak:QtSharedPointer::ExternalRefCountData\nleak:QArrayData::allocate\n";
+}
+
+int main(int argc, char **argv)
+{
+    testing::InitGoogleTest(&argc, argv);
+    const QTemporaryDir home;
+    for (const char *place : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_RUNTIME_DIR"})
+        qputenv(place, home.path().toUtf8());
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QPA_PLATFORMTHEME", "");
+    qputenv("LC_ALL", "C");
+    QLocale::setDefault(QLocale::c());
+
+    Application application(argc, argv);
+    Application::setStyle(QStringLiteral("Fusion"));
+    SetSettingsPort(std::make_unique<QSettings>(home.filePath(QStringLiteral("settings.ini")), QSettings::IniFormat));
+    FatalRecorder::FailTests();
+    return RUN_ALL_TESTS();
+}
