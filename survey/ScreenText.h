@@ -1,0 +1,51 @@
+#pragma once
+
+#include "core/numeric/Value.h"
+
+#include <QLineEdit>
+#include <QString>
+
+/// A value's default text for the screen, under the machine's regional settings.
+[[nodiscard]] inline QString ScreenText(const Value &value)
+{
+    return QString::fromStdString(value.Text());
+}
+
+inline void ShowValue(QLineEdit &field, const Value &value)
+{
+    field.setText(ScreenText(value));
+}
+
+/// What stands in a field, as a text.
+[[nodiscard]] inline Value Entered(const QLineEdit &field)
+{
+    return field.text().toStdString();
+}
+
+/// The decimal of a field's text. Type mismatch (13) where it is no number.
+[[nodiscard]] inline Value DecimalOf(const QString &text)
+{
+    return Value(text.toStdString()).ToDecimal();
+}
+
+/// The decimal of a text, 0 where it is empty.
+[[nodiscard]] inline Value DecimalOrZero(const QString &text)
+{
+    return text.isEmpty() ? Value(Decimal()) : DecimalOf(text);
+}
+
+[[nodiscard]] inline bool IsBlank(const QString &text)
+{
+    return text.trimmed().isEmpty();
+}
+
+/// A number strictly between two bounds; false for anything that is no number.
+[[nodiscard]] inline bool LiesBetween(const Value &value, std::int32_t low, std::int32_t high)
+{
+    return value.IsNumber() && value > Value(low) && value < Value(high);
+}
+
+[[nodiscard]] inline bool IsNegative(const Value &value)
+{
+    return value < Value(std::int16_t {0});
+}

@@ -1,0 +1,261 @@
+#include "survey/SurveyControls.h"
+#include "survey/SurveyWindow.h"
+
+#include "core/ReturnCode.h"
+
+#include "frame/platform/Settings.h"
+
+namespace
+{
+constexpr std::string_view kDuplicateDraft = "You are trying to update two or more drafts with same Date & Time.\n\n"
+                                             "Please correct it and try again.";
+constexpr std::string_view kDuplicateSurvey
+    = "Save aborted.\n\nYou already have a draft with specified Ship, VoyageID, and Port.";
+constexpr std::string_view kNoChanges = "No changes to save.";
+constexpr std::string_view kContactUs = "\n\nPlease contact us with the error no. on the titlebar of this dialog box.";
+
+MsgAnswer AskToSave(const char *text, MsgIcon icon = MsgIcon::Exclamation)
+{
+    return MsgBox(
+        Message {.text = text, .icon = icon, .buttons = MsgButtons::YesNoCancel, .defaultAnswer = MsgAnswer::Yes});
+}
+
+bool MayDelete(const char *text)
+{
+    return MsgBox(Message {.text = text,
+                           .icon = MsgIcon::Exclamation,
+                           .buttons = MsgButtons::YesNo,
+                           .defaultAnswer = MsgAnswer::No})
+        == MsgAnswer::Yes;
+}
+
+std::string CodeCaption(std::int32_t code)
+{
+    return std::string(kProgramTitle) + std::to_string(code);
+}
+
+void TellDeleteFailure(std::string_view text, std::string_view caption)
+{
+    MsgBox(std::string(text).append(kContactUs), MsgIcon::Critical, caption);
+}
+} // namespace
+
+void SurveyWindow::RSave()
+try {
+    if (ui->fgrdFinalResult->Cell(9, 1).isEmpty()) {
+        TellExclamation("Incomplete data...!\n\n"
+                        "Please enter all the details and press calculate before saving.");
+        return;
+    }
+    CollectDraft(ActiveStage());
+    if (!ValidDrafts())
+        return;
+    const std::int32_t code = SaveDraft();
+    switch (code) {
+    case ReturnCode::Success:
+        TellExclamation("Record/s updated successfully.");
+        SendMask("111111111");
+        ShowSavedStage();
+        break;
+    case ReturnCode::DuplicateDraft:
+        TellExclamation(kDuplicateDraft);
+        break;
+    case ReturnCode::NothingToSave:
+        TellExclamation(kNoChanges);
+        break;
+    case ReturnCode::DuplicateSurvey:
+        TellExclamation(kDuplicateSurvey);
+        break;
+    default:
+        TellSaveFailure(CodeCaption(code));
+    }
+} catch (const RuntimeError &) {
+    MsgBox("frmDraftSurvey::RSave");
+}
+
+void SurveyWindow::ShowSavedStage()
+{
+    if (ActiveStage() == Stage::Initial) {
+        EnableSurveyTabs(true);
+        InitVoyageIDDataCombo();
+        InitDateTimedatacombo();
+    } else if (ActiveStage() == Stage::Daily) {
+        ui->cmdNewDailyDraft->show();
+        ui->cmdNewDailyDraft->setEnabled(true);
+        InitDateDataCombo();
+        InitTimeDataCombo();
+        InitDateTimedatacombo();
+    }
+}
+
+bool SurveyWindow::MayStartNewDaily()
+{
+    switch (AskToSave("Save changes to daily draft")) {
+    case MsgAnswer::Yes:
+        break;
+    case MsgAnswer::No:
+        return true;
+    default:
+        return false;
+    }
+    if (!ValidDrafts())
+        return false;
+    return SaveBeforeNewDaily();
+}
+
+bool SurveyWindow::SaveBeforeNewDaily()
+{
+    switch (SaveDraftNarrowed()) {
+    case ReturnCode::Success:
+        InitDateDataCombo();
+        InitTimeDataCombo();
+        return true;
+    case ReturnCode::NothingToSave:
+        TellExclamation(kNoChanges);
+        return false;
+    default:
+        TellSaveFailure(kProgramTitle);
+        return false;
+    }
+}
+
+void SurveyWindow::cmdNewDailyDraft_Click()
+{
+    CollectDraft(ActiveStage());
+    if (!AnyToSave() || MayStartNewDaily())
+        NewDailyDraft();
+}
+
+void SurveyWindow::RNew()
+{
+    CollectDraft(ActiveStage());
+    if (AnyToSave()) {
+        const MsgAnswer answer = AskToSave("Save changes to draft/s");
+        if (answer == MsgAnswer::Cancel)
+            return;
+        if (answer == MsgAnswer::Yes) {
+            if (!ValidDrafts())
+                return;
+            const std::int32_t code = SaveDraft();
+            if (code == ReturnCode::DuplicateDraft)
+                TellExclamation(kDuplicateDraft);
+            else if (code == ReturnCode::NothingToSave)
+                TellExclamation(kNoChanges);
+            else if (code != ReturnCode::Success)
+                TellSaveFailure(CodeCaption(code));
+            if (code != ReturnCode::Success)
+                return;
+        }
+    }
+    NewDraft();
+    ResetWorkspace(false);
+    mNoEvents = true;
+    ActivateTab(Stage::Initial);
+    mNoEvents = false;
+    ShowFreshHeadings();
+    ui->dcbShip->setFocus();
+}
+
+void SurveyWindow::RDelete()
+{
+    if (ActiveStage() == Stage::Initial)
+        DeleteInitial();
+    else if (ActiveStage() == Stage::Daily)
+        DeleteDaily();
+    else
+        DeleteFinal();
+}
+
+void SurveyWindow::DeleteInitial()
+{
+    if (!MayDelete("Deletion of Initial draft will also delete Final and all Daily drafts.\n\n"
+                   "Are you sure to continue ?"))
+        return;
+    const std::int32_t code = mInitDraft.DeleteDraft();
+    if (code == ReturnCode::DeleteDraftFailed)
+        TellDeleteFailure("An internal error has occured while deleting draft/s", "Keelmark-10000");
+    if (code != ReturnCode::Success)
+        return;
+    if (GetSetting(SettingsSection(), "RecordID", "0") == std::to_string(mRecordID))
+        SaveSetting(SettingsSection(), "RecordID", "0");
+    NewDraft();
+    ResetWorkspace(true);
+    MsgBox("Drafts deleted successfully.", MsgIcon::Information);
+}
+
+void SurveyWindow::DeleteDaily()
+{
+    if (!MayDelete("Are you sure to delete the daily draft ?"))
+        return;
+    const std::int32_t code = mDailyDraft.DeleteDraft();
+    if (code == ReturnCode::DeleteDraftFailed)
+        TellDeleteFailure("An internal error has occured while deleting the current draft", "Keelmark-10000");
+    if (code != ReturnCode::Success)
+        return;
+    NewDailyDraft();
+    InitDateDataCombo();
+    InitDateTimedatacombo();
+    InitTimeDataCombo();
+    MsgBox("One record has been deleted successfully.", MsgIcon::Information);
+}
+
+void SurveyWindow::DeleteFinal()
+{
+    if (!MayDelete("Are you sure to delete the final draft ?"))
+        return;
+    const std::int32_t code = mFinalDraft.DeleteDraft();
+    // No hyphen in this caption, unlike the other two.
+    if (code == ReturnCode::DeleteDraftFailed)
+        TellDeleteFailure("An internal error has occured while deleting the current draft", "Keelmark10000");
+    if (code != ReturnCode::Success)
+        return;
+    SendMask("111111011");
+    LoadDraft(Stage::Final);
+    mNoEvents = true;
+    SetListCorrection(Stage::Final, false);
+    mNoEvents = false;
+    ui->dcbDate->setEnabled(false);
+    ui->cmbTime->setEnabled(false);
+    ui->cmdNewDailyDraft->hide();
+    MsgBox("One record has been deleted successfully.", MsgIcon::Information);
+}
+
+void SurveyWindow::RPrint(bool)
+{
+    TellExclamation("The survey report is not part of this version yet.");
+}
+
+void SurveyWindow::CollectBeforeClosing()
+{
+    CollectDraft(ActiveStage());
+}
+
+void SurveyWindow::RClose(bool &cancel)
+{
+    cancel = false;
+    CollectBeforeClosing();
+    const bool anyToSave = AnyToSave();
+    if (!mHeaderDirty && !anyToSave)
+        return;
+    if (anyToSave)
+        CollectDraft(ActiveStage());
+    const MsgAnswer answer = AskToSave("Save changes to the draft/s", MsgIcon::Question);
+    if (answer != MsgAnswer::Yes) {
+        cancel = answer != MsgAnswer::No;
+        return;
+    }
+    const bool selected = ValidSelection();
+    const bool valid = ValidDrafts();
+    if (!selected || !valid) {
+        cancel = true;
+        return;
+    }
+    const std::int16_t code = SaveDraftNarrowed();
+    cancel = code != ReturnCode::Success;
+    if (code == ReturnCode::NothingToSave)
+        TellExclamation(kNoChanges);
+    else if (code == ReturnCode::DuplicateSurvey)
+        TellExclamation(kDuplicateSurvey);
+    else if (code != ReturnCode::Success)
+        TellSaveFailure(CloseFailureCaption());
+}

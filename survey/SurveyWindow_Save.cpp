@@ -1,0 +1,271 @@
+#include "survey/ScreenText.h"
+#include "survey/SurveyControls.h"
+#include "survey/SurveyWindow.h"
+
+#include "core/ReturnCode.h"
+
+#include "frame/platform/Settings.h"
+
+#include <QSignalBlocker>
+
+/// What a save changes in memory before the store has confirmed it.
+struct SurveyWindow::SaveState {
+    struct Draft {
+        bool toSave;
+        bool hasRecord;
+        Value mode;
+    };
+
+    explicit SaveState(SurveyWindow &window)
+        : headerDirty(window.mHeaderDirty)
+        , mode(window.mMode)
+        , mask(window.ButtonMask())
+    {
+        for (std::size_t i = 0; i < drafts.size(); ++i) {
+            const clsDraft &draft = window.DraftOf(Stage::All()[i]);
+            drafts[i] = {draft.ToSave(), draft.HasRecord(), draft.DraftMode()};
+        }
+    }
+
+    void PutBack(SurveyWindow &window) const
+    {
+        window.mHeaderDirty = headerDirty;
+        window.mMode = mode;
+        for (std::size_t i = 0; i < drafts.size(); ++i) {
+            clsDraft &draft = window.DraftOf(Stage::All()[i]);
+            draft.ToSave(drafts[i].toSave);
+            draft.HasRecord(drafts[i].hasRecord);
+            draft.DraftMode(drafts[i].mode);
+        }
+        if (window.ButtonMask() != mask)
+            window.SendMask(mask);
+    }
+
+    bool headerDirty;
+    std::int16_t mode;
+    std::string mask;
+    std::array<Draft, 3> drafts;
+};
+
+namespace
+{
+void RollBack()
+{
+    try {
+        gConnection->RollbackTrans();
+    } catch (const RuntimeError &) {
+        // The store has rolled back by itself, or the transaction never began.
+    }
+}
+} // namespace
+
+bool SurveyWindow::AnyToSave() const
+{
+    return mInitDraft.ToSave() || mDailyDraft.ToSave() || mFinalDraft.ToSave();
+}
+
+bool SurveyWindow::ValidDraft()
+{
+    const Value &constant = mConstant;
+    const Value &netDisplacement = mCurDraft->NetDisplacement();
+    const auto isZero = [](const Value &value) { return value.IsAbsent() || value == Value(std::int16_t {0}); };
+    struct Test {
+        bool fails;
+        const char *message;
+    };
+    const std::array<Test, 17> tests {{
+        {ui->dcbShip->Text().isEmpty(), "Please select ship name."},
+        {ui->dcbVoyageID->Text().isEmpty(), "Please enter/select Voyage-ID."},
+        {ui->dcbPort->Text().isEmpty(), "Please select port name."},
+        {ui->txtCargo->text().isEmpty(), "Please enter value for cargo."},
+        {isZero(constant), "Value of constant can't be zero."},
+        {!LiesBetween(constant, 0, 100000), "Invalid constant value.\n\nPlease check your input values."},
+        {!LiesBetween(netDisplacement, 0, 1000000),
+         "Invalid Net Displacement value.\n\nPlease check your input values."},
+        {mCurDraft->SpecificGravity().IsEmptyText(), "Please enter value for density."},
+        {mCurDraft->FwdPort().IsEmptyText(), "Please enter value for Foward Port Draft."},
+        {mCurDraft->FwdStbd().IsEmptyText(), "Please enter value for Foward Starboard Draft."},
+        {mCurDraft->MidPort().IsEmptyText(), "Please enter value for Midship Port Draft."},
+        {mCurDraft->MidStbd().IsEmptyText(), "Please enter value for Midship Starboard Draft."},
+        {mCurDraft->AftPort().IsEmptyText(), "Please enter value for Aft Port Draft."},
+        {mCurDraft->AftStbd().IsEmptyText(), "Please enter value for Aft Starboard Draft."},
+        {mCurDraft->DSDate().empty(), "Please enter date."},
+        {mCurDraft->DSTime().empty(), "Please enter time."},
+        {netDisplacement.IsEmptyText(), "Invalid value for Net Displacement..!."},
+    }};
+    for (const Test &test : tests) {
+        if (!test.fails)
+            continue;
+        mMessage = test.message;
+        return false;
+    }
+    return true;
+}
+
+bool SurveyWindow::ValidDrafts()
+{
+    for (const Stage &stage : Stage::All()) {
+        if (!DraftOf(stage).ToSave())
+            continue;
+        mCurDraft = &DraftOf(stage);
+        if (ValidDraft())
+            continue;
+        ActivateTab(stage);
+        TellExclamation(mMessage);
+        return false;
+    }
+    return true;
+}
+
+std::int32_t SurveyWindow::SaveDraft()
+{
+    const SaveState before(*this);
+    try {
+        gConnection->BeginTrans();
+        const bool anyToSave = AnyToSave();
+        if (!mHeaderDirty && !anyToSave) {
+            gConnection->CommitTrans();
+            return ReturnCode::NothingToSave;
+        }
+        if (mHeaderDirty)
+            WriteParticulars();
+        if (anyToSave) {
+            const std::int32_t code = WriteDrafts();
+            if (code != ReturnCode::Success) {
+                RollBack();
+                ForgetUnsavedRow();
+                return code;
+            }
+        }
+        SendMask("111111111");
+        mMode = 1;
+        mHeaderDirty = false;
+        gConnection->CommitTrans();
+    } catch (const RuntimeError &error) {
+        RollBack();
+        before.PutBack(*this);
+        ForgetUnsavedRow();
+        return error.Number() == ErrorNumber::StoreRefusal ? ReturnCode::DuplicateSurvey : ReturnCode::SurveySaveFailed;
+    }
+    SaveSetting(SettingsSection(), "RecordID", std::to_string(mRecordID));
+    EnableSurveyTabs(true);
+    return ReturnCode::Success;
+}
+
+void SurveyWindow::ForgetUnsavedRow()
+{
+    if (mMode == 0 && mRsParticulars.State() == 1)
+        mRsParticulars.Close();
+}
+
+void SurveyWindow::WriteParticulars()
+{
+    const bool isNewRow = mMode == 0;
+    const std::string ship = ui->dcbShip->BoundValue().SqlText();
+    const std::string voyage = Quoted(ui->dcbVoyageID->Text().toStdString());
+    const std::string port = ui->dcbPort->BoundValue().SqlText();
+    const std::string cargo = Quoted(ui->txtCargo->text().toStdString());
+    if (isNewRow) {
+        mRecordID = GetNewRecordID();
+        gConnection->Execute("INSERT INTO DraftParticulars (RecordID, ShipID,VoyageID,PortID,Cargo,Constant, IsLoading)"
+                             " VALUES("
+                             + std::to_string(mRecordID) + "," + ship + ", " + voyage + ", " + port + ", " + cargo
+                             + ", " + SavedConstant(isNewRow) + ", " + IsLoading() + ")");
+    } else {
+        if (mRsParticulars.State() == 1 && mRsParticulars.RecordCount() > 0)
+            mRecordID = mRsParticulars.Fields("RecordID").ToLong();
+        gConnection->Execute("UPDATE DraftParticulars set ShipID=" + ship + ",VoyageID=" + voyage + ", PortID=" + port
+                             + ",Cargo=" + cargo + ", Constant = " + SavedConstant(isNewRow)
+                             + " WHERE RecordID = " + std::to_string(mRecordID));
+    }
+    mRsParticulars.Reopen("SELECT * FROM DraftParticulars WHERE RecordID = " + std::to_string(mRecordID)
+                              + " AND IsLoading = " + IsLoading(),
+                          CursorType::Keyset, LockType::Optimistic);
+}
+
+std::int32_t SurveyWindow::WriteDrafts()
+{
+    for (const Stage &stage : Stage::All()) {
+        const std::int32_t code = DraftOf(stage).SaveDraft(mRecordID);
+        if (code != ReturnCode::Success)
+            return code;
+    }
+    for (const Stage &stage : Stage::All()) {
+        clsDraft &draft = DraftOf(stage);
+        if (!draft.ToSave())
+            continue;
+        if (draft.DraftMode() == Value(std::int16_t {0})) {
+            draft.DraftMode(std::int16_t {1});
+            draft.HasRecord(true);
+        }
+        draft.ToSave(false);
+    }
+    return ReturnCode::Success;
+}
+
+std::int32_t SurveyWindow::GetNewRecordID()
+try {
+    Recordset highest;
+    highest.Open("SELECT MAX(RecordID) AS RecordID FROM DraftParticulars", CursorType::Dynamic,
+                 LockType::BatchOptimistic);
+    const Value recordID = highest.Fields("RecordID");
+    return recordID.IsNull() ? 1 : (recordID + Value(std::int16_t {1})).ToLong();
+} catch (const RuntimeError &error) {
+    // The source line names the draft although the routine is the window's; users know it so.
+    MsgBox(error.Description().append(kTwoLineBreaks).append("Source :  clsDraft::GetNewRecordID"), MsgIcon::Critical);
+    return 0;
+}
+
+std::int16_t SurveyWindow::SaveDraftNarrowed()
+{
+    return Value(SaveDraft()).ToInteger();
+}
+
+void SurveyWindow::TellSaveFailure(std::string_view caption)
+{
+    MsgBox("An internal error has occured while updating draft/s\n\n"
+           "Please contact us with the error no. on the titlebar of this dialog box.",
+           MsgIcon::Exclamation, caption);
+}
+
+void SurveyWindow::NewDraft()
+{
+    for (const Stage &stage : Stage::All())
+        DraftOf(stage).NewDraft();
+    ui->mbxDate->SetText(QString::fromStdString(mInitDraft.DSDate()));
+    ui->mbxTime->SetText(QString::fromStdString(mInitDraft.DSTime()));
+    // No survey is open: her row must not lend its cargo to the next one.
+    if (mRsParticulars.State() == 1)
+        mRsParticulars.Close();
+    mRecordID = -1;
+    mConstant = std::int16_t {0};
+    mMode = 0;
+    mHeaderDirty = false;
+}
+
+void SurveyWindow::NewDailyDraft()
+{
+    mDailyDraft.NewDraft();
+    SendMask("111111011");
+    InitializeAllGrids(true);
+    mCurDraft = &mDailyDraft;
+    ui->mbxDate->SetText(QString::fromStdString(mDailyDraft.DSDate()));
+    ui->mbxTime->SetText(QString::fromStdString(mDailyDraft.DSTime()));
+    mNoEvents = true;
+    SetListCorrection(Stage::Daily, false);
+    mNoEvents = false;
+    ui->dcbDate->setEnabled(true);
+    ui->cmbTime->setEnabled(true);
+    ui->cmdNewDailyDraft->show();
+    ui->cmdNewDailyDraft->setEnabled(false);
+    ClearTextBoxes();
+    ui->lblHogSag->hide();
+    ui->txtDeflection->clear();
+    InitDateDataCombo();
+    if (DailyDateTimes().count() > 0) {
+        const QSignalBlocker quiet(DailyDateTimes());
+        DailyDateTimes().setCurrentIndex(0);
+        cmbDailyDateTime_Click();
+    }
+    ui->txtDensity->setFocus();
+}
