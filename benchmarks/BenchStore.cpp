@@ -27,7 +27,7 @@ BenchStore::BenchStore()
     if (sqlite3_open_v2(file.c_str(), &mPlain, SQLITE_OPEN_READWRITE, nullptr) != SQLITE_OK)
         BenchFailure("the store cannot be opened");
     Plain("PRAGMA foreign_keys=ON");
-    Plain("PRAGMA synchronous=FULL");
+    Plain("PRAGMA synchronous=EXTRA");
 }
 
 BenchStore::~BenchStore()

@@ -1,7 +1,6 @@
 #include "benchmarks/BenchStore.h"
 #include "benchmarks/RatioTable.h"
 
-#include "core/MsgBox.h"
 #include "core/ReturnCode.h"
 #include "core/clsDraft.h"
 
@@ -61,7 +60,6 @@ void FetchPlainly(benchmark::State &state, int rows)
 }
 
 const bool kRegistered = [] {
-    SetMsgBoxPort([](const Message &message) -> MsgAnswer { BenchFailure(message.text); });
     for (const int rows : {30, 200, 1000, 5000}) {
         const std::string name = "Calculate, " + std::to_string(rows) + " rows";
         benchmark::RegisterBenchmark((name + "/keelmark").c_str(), CalculateInKeelmark, rows);

@@ -14,6 +14,8 @@ class RatioTable : public benchmark::ConsoleReporter
 public:
     /// The most that the row's ratio is meant to be.
     static void Row(const std::string &name, const std::string &yardstick, double limit);
+    /// A row whose yardstick is a fixed time and no benchmark.
+    static void Row(const std::string &name, double microseconds, const std::string &yardstick, double limit);
 
     void ReportRuns(const std::vector<Run> &runs) override;
     /// The table; what lies over its limit is marked.

@@ -1,10 +1,40 @@
+#include "benchmarks/BenchStore.h"
 #include "benchmarks/RatioTable.h"
+
+#include "core/MsgBox.h"
+
+#include "frame/platform/Application.h"
+#include "frame/platform/Settings.h"
+
+#include <QSettings>
+#include <QTemporaryDir>
 
 #include <string>
 #include <vector>
 
+namespace
+{
+/// What an answer to a box costs is nobody's business here; a box that tells of a failure ends the run.
+MsgAnswer AnswerBox(const Message &message)
+{
+    if (message.text == "Record/s updated successfully.")
+        return MsgAnswer::Ok;
+    if (message.buttons == MsgButtons::YesNoCancel)
+        return MsgAnswer::No;
+    BenchFailure(message.text);
+}
+} // namespace
+
 int main(int argc, char **argv)
 {
+    const QTemporaryDir home;
+    for (const char *place : {"HOME", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR"})
+        qputenv(place, home.path().toUtf8());
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const Application application(argc, argv);
+    SetSettingsPort(std::make_unique<QSettings>(home.filePath(QStringLiteral("settings.ini")), QSettings::IniFormat));
+    SetMsgBoxPort(AnswerBox);
+
     // Repetitions of both sides are mixed, so that a slow moment of the machine meets both alike.
     std::vector<std::string> arguments {argv[0], "--benchmark_repetitions=7", "--benchmark_min_time=0.1",
                                         "--benchmark_enable_random_interleaving=true",
