@@ -19,8 +19,9 @@ std::int32_t clsDraft::SaveDraft(std::int32_t recordID)
         if (mDraftMode == 0) {
             mDraftID = GetNewDraftID();
             gConnection->Execute(InsertStatement(recordID));
+            mRecordID = recordID;
         } else {
-            gConnection->Execute(UpdateStatement());
+            gConnection->ExecuteOnOneRow(UpdateStatement());
         }
         SaveDeductions();
         return ReturnCode::Success;

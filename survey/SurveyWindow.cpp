@@ -1,13 +1,12 @@
 #include "survey/SurveyWindow.h"
 
 #include "frame/controls/FloatingEditor.h"
+#include "frame/controls/SelectOnFocus.h"
 #include "frame/mdlMain.h"
 #include "survey/SurveyLook.h"
 #include "ui_SurveyWindow.h"
 
 #include <QKeyEvent>
-#include <QTimer>
-
 #include <utility>
 
 namespace
@@ -113,11 +112,7 @@ void SurveyWindow::ConnectEvents()
 bool SurveyWindow::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::FocusIn) {
-        // Later, for a mouse press that gives the focus would undo the selection at once.
-        QTimer::singleShot(0, watched, [field = static_cast<QLineEdit *>(watched)] {
-            if (field->hasFocus())
-                field->selectAll();
-        });
+        SelectOnFocus(static_cast<QLineEdit &>(*watched), static_cast<QFocusEvent *>(event)->reason());
     } else if (event->type() == QEvent::KeyPress && kWakeNewDaily.contains(watched->objectName())) {
         const auto &key = static_cast<QKeyEvent &>(*event);
         const bool leaves = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter || key.key() == Qt::Key_Tab

@@ -121,7 +121,7 @@ protected:
     virtual void BeforeDailyShown() { }
     virtual void ReportTabFailure();
     /// The survey's row was found but its drafts cannot be brought up.
-    virtual void DraftsNotBroughtUp() { }
+    virtual void DraftsNotBroughtUp();
     /// Whether a new Daily draft may start; asks about unsaved changes.
     [[nodiscard]] virtual bool MayStartNewDaily();
     /// Closing copies the screen into the active draft before it looks for changes.

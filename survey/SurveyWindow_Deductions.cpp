@@ -1,4 +1,4 @@
-#include "survey/ScreenText.h"
+#include "frame/controls/ScreenText.h"
 #include "survey/SurveyControls.h"
 #include "survey/SurveyWindow.h"
 
@@ -18,6 +18,8 @@ void SurveyWindow::fgrdDeduction_EnterCell()
     if (!text.isEmpty())
         txtGridTextbox->setText(text);
     txtGridTextbox->setFocus();
+    // The editor has had the focus all along when it comes from another row: what is typed must replace the figure.
+    txtGridTextbox->selectAll();
 }
 
 void SurveyWindow::fgrdDeduction_LeaveCell()
@@ -95,7 +97,7 @@ void SurveyWindow::ShowDeductions(Recordset &deductions)
     ClearDeductions();
     Grid &grid = *ui->fgrdDeduction;
     const clsDraft &draft = DraftOf(ActiveStage());
-    if (!draft.ToSave() && !draft.HasRecord())
+    if ((!draft.ToSave() && !draft.HasRecord()) || mRsItems.State() != 1)
         return;
     if (deductions.RecordCount() < 1) {
         if (draft.HasRecord())

@@ -1,4 +1,4 @@
-#include "survey/ScreenText.h"
+#include "frame/controls/ScreenText.h"
 #include "survey/SurveyControls.h"
 #include "survey/SurveyWindow.h"
 
@@ -272,6 +272,16 @@ void SurveyWindow::ShowFoundSurvey()
     mMode = 1;
     LoadDraft(Stage::Initial);
     InitDateTimedatacombo();
+    ui->dcbDate->SetText(QString());
+    InitDateDataCombo();
+}
+
+void SurveyWindow::DraftsNotBroughtUp()
+{
+    // What still stands on the screen belongs to the survey before. Nothing of it may be saved under this one.
+    NewDraft();
+    ClearTextBoxes();
+    EnableSurveyTabs(false);
 }
 
 void SurveyWindow::TellNoSurvey()

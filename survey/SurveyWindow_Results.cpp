@@ -1,4 +1,4 @@
-#include "survey/ScreenText.h"
+#include "frame/controls/ScreenText.h"
 #include "survey/SurveyControls.h"
 #include "survey/SurveyWindow.h"
 

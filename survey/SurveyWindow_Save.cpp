@@ -1,4 +1,4 @@
-#include "survey/ScreenText.h"
+#include "frame/controls/ScreenText.h"
 #include "survey/SurveyControls.h"
 #include "survey/SurveyWindow.h"
 
@@ -119,14 +119,12 @@ bool SurveyWindow::ValidDrafts()
 
 std::int32_t SurveyWindow::SaveDraft()
 {
+    const bool anyToSave = AnyToSave();
+    if (!mHeaderDirty && !anyToSave)
+        return ReturnCode::NothingToSave;
     const SaveState before(*this);
     try {
         gConnection->BeginTrans();
-        const bool anyToSave = AnyToSave();
-        if (!mHeaderDirty && !anyToSave) {
-            gConnection->CommitTrans();
-            return ReturnCode::NothingToSave;
-        }
         if (mHeaderDirty)
             WriteParticulars();
         if (anyToSave) {
@@ -167,6 +165,8 @@ void SurveyWindow::WriteParticulars()
     const std::string cargo = Quoted(ui->txtCargo->text().toStdString());
     if (isNewRow) {
         mRecordID = GetNewRecordID();
+        if (mRecordID == 0)
+            throw RuntimeError(StoreError::StatementFailed, "There is no number for the survey.");
         gConnection->Execute("INSERT INTO DraftParticulars (RecordID, ShipID,VoyageID,PortID,Cargo,Constant, IsLoading)"
                              " VALUES("
                              + std::to_string(mRecordID) + "," + ship + ", " + voyage + ", " + port + ", " + cargo
@@ -174,9 +174,9 @@ void SurveyWindow::WriteParticulars()
     } else {
         if (mRsParticulars.State() == 1 && mRsParticulars.RecordCount() > 0)
             mRecordID = mRsParticulars.Fields("RecordID").ToLong();
-        gConnection->Execute("UPDATE DraftParticulars set ShipID=" + ship + ",VoyageID=" + voyage + ", PortID=" + port
-                             + ",Cargo=" + cargo + ", Constant = " + SavedConstant(isNewRow)
-                             + " WHERE RecordID = " + std::to_string(mRecordID));
+        gConnection->ExecuteOnOneRow("UPDATE DraftParticulars set ShipID=" + ship + ",VoyageID=" + voyage + ", PortID="
+                                     + port + ",Cargo=" + cargo + ", Constant = " + SavedConstant(isNewRow)
+                                     + " WHERE RecordID = " + std::to_string(mRecordID));
     }
     mRsParticulars.Reopen("SELECT * FROM DraftParticulars WHERE RecordID = " + std::to_string(mRecordID)
                               + " AND IsLoading = " + IsLoading(),
@@ -261,6 +261,7 @@ void SurveyWindow::NewDailyDraft()
     ClearTextBoxes();
     ui->lblHogSag->hide();
     ui->txtDeflection->clear();
+    ui->dcbDate->SetText(QString());
     InitDateDataCombo();
     if (DailyDateTimes().count() > 0) {
         const QSignalBlocker quiet(DailyDateTimes());

@@ -1,5 +1,5 @@
+#include "frame/controls/ScreenText.h"
 #include "frame/platform/Settings.h"
-#include "survey/ScreenText.h"
 #include "survey/SurveyControls.h"
 #include "survey/SurveyWindow.h"
 

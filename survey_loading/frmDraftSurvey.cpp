@@ -1,6 +1,6 @@
 #include "survey_loading/frmDraftSurvey.h"
 
-#include "survey/ScreenText.h"
+#include "frame/controls/ScreenText.h"
 #include "survey/SurveyControls.h"
 #include "survey/SurveyLook.h"
 #include "ui_LoadingResults.h"
@@ -208,6 +208,7 @@ void frmDraftSurvey::cmbDailyDateTime_Click()
     if (mConstant.IsEmptyText()) {
         // Without a constant there is no figure, rather than one that is wrong by all of it.
         mResults->txtPrevLoadedCargo->clear();
+        mResults->txtLastLoadedCargo->clear();
         return;
     }
     const QComboBox &list = *mResults->cmbDailyDateTime;

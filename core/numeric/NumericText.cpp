@@ -259,6 +259,24 @@ Decimal NumericTextToDecimal(std::string_view text, const RegionalSettings &regi
     return Decimal::Parse(*plain);
 }
 
+std::string FieldSqlText(std::string_view text, const RegionalSettings &regional)
+{
+    static_cast<void>(NumericTextToDecimal(text, regional));
+    std::string plain(Trimmed(text));
+    if (regional.decimalSeparator != ".") {
+        if (plain.find('.') != std::string::npos)
+            throw RuntimeError(ErrorNumber::TypeMismatch);
+        if (const std::size_t at = plain.find(regional.decimalSeparator); at != std::string::npos)
+            plain.replace(at, regional.decimalSeparator.size(), ".");
+    }
+    const char *const last = plain.data() + plain.size();
+    double number = 0;
+    const auto [end, error] = std::from_chars(plain.data() + (plain.front() == '+' ? 1 : 0), last, number);
+    if (error != std::errc {} || end != last)
+        throw RuntimeError(ErrorNumber::TypeMismatch);
+    return plain;
+}
+
 std::string_view Trimmed(std::string_view text)
 {
     while (const std::size_t size = LeadingBlank(text))

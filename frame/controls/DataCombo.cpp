@@ -50,6 +50,7 @@ void DataCombo::setEditable(bool editable)
 void DataCombo::SetRows(Recordset &rows, const std::string &listField, const std::string &boundColumn)
 {
     const QSignalBlocker quiet(this);
+    const Value bound = BoundValue();
     clear();
     mBound.clear();
     QStringList texts;
@@ -58,7 +59,12 @@ void DataCombo::SetRows(Recordset &rows, const std::string &listField, const std
         mBound.push_back(boundColumn.empty() ? Value() : rows.Fields(boundColumn));
     }
     addItems(texts);
-    SetText(QString(mText));
+    // The same row, though it may have been renamed; else the row that now has this text.
+    const bool stillThere = !bound.IsAbsent() && std::find(mBound.begin(), mBound.end(), bound) != mBound.end();
+    if (stillThere)
+        SetBoundValue(bound);
+    else
+        SetText(QString(mText));
 }
 
 QString DataCombo::Text() const

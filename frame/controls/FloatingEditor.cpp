@@ -1,6 +1,7 @@
 #include "frame/controls/FloatingEditor.h"
 
 #include "frame/controls/Grid.h"
+#include "frame/controls/SelectOnFocus.h"
 
 #include <QCoreApplication>
 #include <QHeaderView>
@@ -83,7 +84,7 @@ void FloatingEditor::OnKeyDown(KeyHook hook)
 void FloatingEditor::focusInEvent(QFocusEvent *event)
 {
     QLineEdit::focusInEvent(event);
-    selectAll();
+    SelectOnFocus(*this, event->reason());
 }
 
 void FloatingEditor::keyPressEvent(QKeyEvent *event)

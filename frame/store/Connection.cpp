@@ -56,10 +56,17 @@ void Connection::Close()
     mHandle = nullptr;
 }
 
-void Connection::Execute(std::string_view sql)
+std::int64_t Connection::Execute(std::string_view sql)
 {
     Statement statement(Handle(), sql);
     while (statement.Step()) { }
+    return sqlite3_changes64(mHandle);
+}
+
+void Connection::ExecuteOnOneRow(std::string_view sql)
+{
+    if (Execute(sql) != 1)
+        throw RuntimeError(StoreError::StatementFailed, "The row to be changed is not in the store any more.");
 }
 
 void Connection::BeginTrans()

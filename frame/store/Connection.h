@@ -59,7 +59,11 @@ public:
     /// refused before any of it runs. StoreRefusal: one of the two unique constraints (a survey with the same ship,
     /// voyage and port; a draft with the same date and time). StatementFailed: every other failure, with the store's
     /// own words.
-    void Execute(std::string_view sql);
+    /// The number of rows that an INSERT, UPDATE or DELETE touched itself, cascades not counted.
+    std::int64_t Execute(std::string_view sql);
+    /// The same for a change of one row by its key: StatementFailed where it touches none, for what was to be saved is
+    /// then not in the store.
+    void ExecuteOnOneRow(std::string_view sql);
 
     /// One flat transaction. WrongState where one is open already, or none is.
     void BeginTrans();

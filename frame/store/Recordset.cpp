@@ -116,8 +116,8 @@ int Recordset::State() const noexcept
 
 void Recordset::Reopen(std::string_view sql, CursorType cursor, LockType lock)
 {
-    mRows.reset();
-    Open(sql, cursor, lock);
+    // Fetched first: a set whose new rows cannot be had keeps the old ones.
+    mRows = Fetch(sql, cursor, lock);
 }
 
 void Recordset::Requery()

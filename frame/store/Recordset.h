@@ -46,7 +46,7 @@ public:
     void Close();
     /// 1 when open, 0 when closed.
     [[nodiscard]] int State() const noexcept;
-    /// Open, after closing first where it is open: what every list and lookup does.
+    /// Open, in place of the rows that are there: what every list and lookup does. Where it fails the old rows stay.
     void Reopen(std::string_view sql, CursorType cursor, LockType lock);
     /// Fetches the rows again with the same statement; a Sort that was set stays in force, a Filter too.
     void Requery();

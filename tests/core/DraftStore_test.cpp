@@ -112,6 +112,18 @@ TEST_F(DraftStore, RefusesADuplicateAndWhatTheStoreCannotTake)
     EXPECT_EQ(Count("DraftDetails"), 3);
 }
 
+TEST_F(DraftStore, ADraftKnowsItsRowFromTheFirstSaveOn)
+{
+    clsDraft draft = WorkedDraft(mShipID);
+    ASSERT_EQ(draft.SaveDraft(mRecordID), ReturnCode::Success);
+    draft.DraftMode(1);
+    Run("DELETE FROM DraftDetails");
+    draft.Comments("nobody to keep this");
+    EXPECT_EQ(draft.SaveDraft(mRecordID), ReturnCode::SaveDraftFailed) << "the row is gone";
+    EXPECT_EQ(draft.DeleteDraft(), ReturnCode::Success);
+    EXPECT_EQ(Count("DraftParticulars"), 0);
+}
+
 TEST_F(DraftStore, NoCommentReachesBeyondItself)
 {
     Saved(DraftTypeCode::Daily, "15-03-2024 14:30");
