@@ -33,7 +33,9 @@ void frmAbout::cmdContinue_Click()
 {
     Forms::Remove(this);
     accept();
-    if (NumericTextToDecimal(GetSetting(TipSetting::Section, TipSetting::Key, "1")) == Decimal(1))
+    // A setting that is no number must not keep the user out for good.
+    const std::string setting = GetSetting(TipSetting::Section, TipSetting::Key, "1");
+    if (!IsNumericText(setting) || NumericTextToDecimal(setting) == Decimal(1))
         ShowTipOfDay();
     else
         ShowMainWindow();

@@ -78,6 +78,8 @@ frmMDI::frmMDI()
     mArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     mArea->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     mArea->setActivationOrder(QMdiArea::ActivationHistoryOrder);
+    // A child opened over a maximized one keeps its own size and title.
+    mArea->setOption(QMdiArea::DontMaximizeSubWindowOnActivation);
     connect(mArea, &QMdiArea::subWindowActivated, this, &frmMDI::FollowActiveChild);
 
     MakeToolbar();
@@ -170,6 +172,7 @@ void frmMDI::FollowActiveChild()
     Form *form = FormInFront();
     if (form && form != mActiveForm) {
         mActiveForm = form;
+        MDIForm_Activate();
         form->Form_Activate();
     } else if (Forms::Count() == 1) {
         MDIForm_Activate();
@@ -201,6 +204,9 @@ void frmMDI::closeEvent(QCloseEvent *event)
 {
     if (!UnloadChildren()) {
         event->ignore();
+        // A child that went has turned the commands off; the one in front wants its own again.
+        mActiveForm = nullptr;
+        FollowActiveChild();
         return;
     }
     MDIForm_Unload();

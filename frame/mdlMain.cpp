@@ -82,7 +82,7 @@ void OpenChild(ChildWindow window)
     frame.ShowChild(Child(window));
 }
 
-void ChildUnloaded(bool sendMask)
+void ChildUnloaded(bool sendMask, bool hintOnlyAtTwo)
 {
     --gOpenChildCount;
     frmMDI *frame = frmMDI::Loaded();
@@ -90,7 +90,8 @@ void ChildUnloaded(bool sendMask)
         return;
     if (gOpenChildCount == 0)
         frame->ShowCoolBar(false);
-    frame->SetHint(Forms::Count() <= 2 ? frmMDI::OpenHint() : QString());
+    const bool lastChild = hintOnlyAtTwo ? Forms::Count() == 2 : Forms::Count() <= 2;
+    frame->SetHint(lastChild ? frmMDI::OpenHint() : QString());
     if (sendMask)
         frame->SetMDIToolbar("001001010");
 }

@@ -24,8 +24,8 @@ void ShowTipOfDay();
 /// What every command that opens a child does.
 void OpenChild(ChildWindow window);
 /// What every child does as the last of its Form_Unload, while it is still counted among the Forms. sendMask turns the
-/// six commands off.
-void ChildUnloaded(bool sendMask = true);
+/// six commands off; hintOnlyAtTwo gives the Ctrl-O hint only where the Forms are exactly two, not two or less.
+void ChildUnloaded(bool sendMask = true, bool hintOnlyAtTwo = false);
 
 /// Puts a window of the main window to the middle of the screen, raised by the height of the toolbar, but never
 /// outside the main window. To be called first in Form_Load. False where it could not be done.

@@ -32,6 +32,8 @@ void SurveyWindow::BuildWindow()
     for (const Stage &stage : Stage::All())
         ui->sstDraftSurvey->addTab(stage.Caption());
     ui->sstDraftSurvey->updateGeometry();
+    ui->chkDailyListCorrection->hide();
+    ui->chkFinalListCorrection->hide();
     ui->mbxDate->SetMask(QStringLiteral("99-99-9999"));
     ui->mbxTime->SetMask(QStringLiteral("99:99"));
     txtGridTextbox = new FloatingEditor(ui->fgrdDeduction->parentWidget());
@@ -45,6 +47,19 @@ void SurveyWindow::BuildWindow()
     FitGrids(*ui);
     FitFields(*this);
     ShowLocked(*this);
+}
+
+QWidget &SurveyWindow::AddStageFrames()
+{
+    auto *frames = new QWidget;
+    ui->layStageFrames->addWidget(frames);
+    return *frames;
+}
+
+void SurveyWindow::FitStageFrames()
+{
+    FitFields(*ui->wgtStageFrames);
+    ShowLocked(*ui->wgtStageFrames);
 }
 
 QSize SurveyWindow::sizeHint() const

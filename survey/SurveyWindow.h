@@ -58,7 +58,7 @@ public:
 
     void InitPortDataCombo();
     /// Tests mCurDraft together with the window; the first failure leaves its text in mMessage.
-    [[nodiscard]] virtual bool ValidDraft();
+    [[nodiscard]] bool ValidDraft();
     /// Writes what changed in one transaction. Success, NothingToSave, DuplicateSurvey, DuplicateDraft,
     /// SaveDraftFailed or SurveySaveFailed; after any but Success the store and every flag are as before.
     [[nodiscard]] std::int32_t SaveDraft();
@@ -122,12 +122,18 @@ protected:
     virtual void ReportTabFailure();
     /// The survey's row was found but its drafts cannot be brought up.
     virtual void DraftsNotBroughtUp();
-    /// Whether a new Daily draft may start; asks about unsaved changes.
-    [[nodiscard]] virtual bool MayStartNewDaily();
+    /// Whether a new Daily draft starts after this answer to the question about unsaved changes.
+    [[nodiscard]] virtual bool StartsNewDaily(MsgAnswer answer);
+    /// What is wrong with the constant and the net displacement of mCurDraft; empty where nothing is.
+    [[nodiscard]] virtual std::string WrongFigures() const;
     /// Closing copies the screen into the active draft before it looks for changes.
     virtual void CollectBeforeClosing();
     /// Value of a ship as the drafts take it.
     [[nodiscard]] virtual Value ShipForDrafts(const Value &bound) const { return bound; }
+
+    /// The widget that the frames of the stages are set up in, and their looks once they are.
+    [[nodiscard]] QWidget &AddStageFrames();
+    void FitStageFrames();
 
     // Stages
     [[nodiscard]] const Stage &ActiveStage() const { return Stage::OfTab(mTab); }
@@ -149,6 +155,8 @@ protected:
     void ShowFinalCaptions(const ResultCaptions &captions);
     void ShowFinalCell(int row, const Value &value);
     [[nodiscard]] static Value RoundField(const Value &value, int places);
+    /// Empty text in place of 0.
+    [[nodiscard]] static Value BlankIfZero(const Value &value);
 
     // Lists and lookup
     void InitShipDataCombo();

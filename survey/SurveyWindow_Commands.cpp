@@ -88,19 +88,11 @@ void SurveyWindow::ShowSavedStage()
     }
 }
 
-bool SurveyWindow::MayStartNewDaily()
+bool SurveyWindow::StartsNewDaily(MsgAnswer answer)
 {
-    switch (AskToSave("Save changes to daily draft")) {
-    case MsgAnswer::Yes:
-        break;
-    case MsgAnswer::No:
-        return true;
-    default:
-        return false;
-    }
-    if (!ValidDrafts())
-        return false;
-    return SaveBeforeNewDaily();
+    if (answer == MsgAnswer::Yes)
+        return ValidDrafts() && SaveBeforeNewDaily();
+    return answer == MsgAnswer::No;
 }
 
 bool SurveyWindow::SaveBeforeNewDaily()
@@ -122,7 +114,7 @@ bool SurveyWindow::SaveBeforeNewDaily()
 void SurveyWindow::cmdNewDailyDraft_Click()
 {
     CollectDraft(ActiveStage());
-    if (!AnyToSave() || MayStartNewDaily())
+    if (!AnyToSave() || StartsNewDaily(AskToSave("Save changes to daily draft")))
         NewDailyDraft();
 }
 

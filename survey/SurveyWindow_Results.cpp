@@ -18,16 +18,16 @@ Value ZeroIfEmpty(const Value &value)
 {
     return value.IsAbsent() ? Value(std::int16_t {0}) : value;
 }
-
-Value BlankIfZero(const Value &value)
-{
-    return value == Value(std::int16_t {0}) ? Value::EmptyText() : value;
-}
 } // namespace
 
 Value SurveyWindow::RoundField(const Value &value, int places)
 {
     return value.IsEmptyText() ? value : Round(value, places);
+}
+
+Value SurveyWindow::BlankIfZero(const Value &value)
+{
+    return value == Value(std::int16_t {0}) ? Value::EmptyText() : value;
 }
 
 bool SurveyWindow::Calculate()

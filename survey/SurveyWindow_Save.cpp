@@ -64,24 +64,30 @@ bool SurveyWindow::AnyToSave() const
     return mInitDraft.ToSave() || mDailyDraft.ToSave() || mFinalDraft.ToSave();
 }
 
+std::string SurveyWindow::WrongFigures() const
+{
+    if (mConstant.IsAbsent() || mConstant == Value(std::int16_t {0}))
+        return "Value of constant can't be zero.";
+    if (!LiesBetween(mConstant, 0, 100000))
+        return "Invalid constant value.\n\nPlease check your input values.";
+    if (!LiesBetween(mCurDraft->NetDisplacement(), 0, 1000000))
+        return "Invalid Net Displacement value.\n\nPlease check your input values.";
+    return {};
+}
+
 bool SurveyWindow::ValidDraft()
 {
-    const Value &constant = mConstant;
-    const Value &netDisplacement = mCurDraft->NetDisplacement();
-    const auto isZero = [](const Value &value) { return value.IsAbsent() || value == Value(std::int16_t {0}); };
     struct Test {
         bool fails;
-        const char *message;
+        std::string message;
     };
-    const std::array<Test, 17> tests {{
+    const std::string wrongFigures = WrongFigures();
+    const std::array<Test, 15> tests {{
         {ui->dcbShip->Text().isEmpty(), "Please select ship name."},
         {ui->dcbVoyageID->Text().isEmpty(), "Please enter/select Voyage-ID."},
         {ui->dcbPort->Text().isEmpty(), "Please select port name."},
         {ui->txtCargo->text().isEmpty(), "Please enter value for cargo."},
-        {isZero(constant), "Value of constant can't be zero."},
-        {!LiesBetween(constant, 0, 100000), "Invalid constant value.\n\nPlease check your input values."},
-        {!LiesBetween(netDisplacement, 0, 1000000),
-         "Invalid Net Displacement value.\n\nPlease check your input values."},
+        {!wrongFigures.empty(), wrongFigures},
         {mCurDraft->SpecificGravity().IsEmptyText(), "Please enter value for density."},
         {mCurDraft->FwdPort().IsEmptyText(), "Please enter value for Foward Port Draft."},
         {mCurDraft->FwdStbd().IsEmptyText(), "Please enter value for Foward Starboard Draft."},
@@ -91,7 +97,7 @@ bool SurveyWindow::ValidDraft()
         {mCurDraft->AftStbd().IsEmptyText(), "Please enter value for Aft Starboard Draft."},
         {mCurDraft->DSDate().empty(), "Please enter date."},
         {mCurDraft->DSTime().empty(), "Please enter time."},
-        {netDisplacement.IsEmptyText(), "Invalid value for Net Displacement..!."},
+        {mCurDraft->NetDisplacement().IsEmptyText(), "Invalid value for Net Displacement..!."},
     }};
     for (const Test &test : tests) {
         if (!test.fails)

@@ -2,7 +2,6 @@
 
 #include "frame/controls/ScreenText.h"
 #include "survey/SurveyControls.h"
-#include "survey/SurveyLook.h"
 #include "ui_LoadingResults.h"
 
 #include "frame/controls/Colours.h"
@@ -27,13 +26,10 @@ frmDraftSurvey::frmDraftSurvey(QWidget *parent)
     , mResults(std::make_unique<Ui::LoadingResults>())
 {
     setObjectName(QStringLiteral("frmDraftSurvey"));
-    auto *results = new QWidget;
-    mResults->setupUi(results);
-    ui->layStageFrames->addWidget(results);
-    FitFields(*results);
-    ShowLocked(*results);
+    mResults->setupUi(&AddStageFrames());
     connect(mResults->cmbDailyDateTime, &QComboBox::activated, this, &frmDraftSurvey::cmbDailyDateTime_Click);
     OnValidate(mResults->txtCargoIntendedToLoad, [this](bool &cancel) { txtCargoIntendedToLoad_Validate(cancel); });
+    FitStageFrames();
 }
 
 frmDraftSurvey::~frmDraftSurvey() = default;

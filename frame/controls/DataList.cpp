@@ -72,9 +72,9 @@ void DataList::selectionChanged(const QItemSelection &selected, const QItemSelec
     emit Click();
 }
 
-// A row once picked stays so, a press with the control key notwithstanding.
+// A row once picked stays so, whatever is pressed beside the rows or with the control key.
 QItemSelectionModel::SelectionFlags DataList::selectionCommand(const QModelIndex &index, const QEvent *event) const
 {
     const QItemSelectionModel::SelectionFlags command = QListView::selectionCommand(index, event);
-    return command & QItemSelectionModel::Deselect ? QItemSelectionModel::NoUpdate : command;
+    return !index.isValid() || (command & QItemSelectionModel::Deselect) ? QItemSelectionModel::NoUpdate : command;
 }

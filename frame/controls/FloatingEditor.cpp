@@ -64,6 +64,8 @@ bool FloatingEditor::eventFilter(QObject * /*watched*/, QEvent *event)
     case QEvent::Move:
     case QEvent::LayoutRequest:
         Follow();
+        // The grid itself sees the event after this filter, and lays its columns out anew.
+        QMetaObject::invokeMethod(this, &FloatingEditor::Follow, Qt::QueuedConnection);
         break;
     case QEvent::ShowToParent:
     case QEvent::HideToParent:

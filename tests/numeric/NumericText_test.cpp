@@ -122,3 +122,25 @@ TEST(NumericText, FormMayPassWhereTheNumberIsOutOfRange)
     EXPECT_TRUE(IsNumericText(manyDigits + "e-390", kPoint));
     EXPECT_TRUE(IsNumericText("0." + std::string(400, '0') + "1", kPoint));
 }
+
+TEST(NumericText, AFieldsNumberGoesIntoAStatementAsItStands)
+{
+    const struct {
+        const RegionalSettings &regional;
+        std::string typed;
+        std::string sql;
+    } taken[] = {{kPoint, "171.50", "171.50"},
+                 {kPoint, " -0.5 ", "-0.5"},
+                 {kPoint, "+.5", "+.5"},
+                 {kPoint, "1e3", "1e3"},
+                 {kComma, "171,50", "171.50"}};
+    for (const auto &[regional, typed, sql] : taken)
+        EXPECT_EQ(FieldSqlText(typed, regional), sql);
+    // A dollar sign would name a parameter, parentheses hide a sign, separators make two values of one.
+    for (const std::string typed :
+         {"", " ", "abc", "$5", "(5)", "1,234", "&H10", "5-", "- 5", "1; DROP", "5 --", "0x10", "inf", "nan"})
+        EXPECT_EQ(RaisedNumber([&] { return FieldSqlText(typed, kPoint); }), ErrorNumber::TypeMismatch) << typed;
+    for (const std::string typed : {"1.234", "1.234,5", "1,2,3"})
+        EXPECT_EQ(RaisedNumber([&] { return FieldSqlText(typed, kComma); }), ErrorNumber::TypeMismatch) << typed;
+    EXPECT_EQ(RaisedNumber([] { return FieldSqlText("1e30", kPoint); }), ErrorNumber::Overflow);
+}
