@@ -282,6 +282,8 @@ void SurveyWindow::DraftsNotBroughtUp()
     NewDraft();
     ClearTextBoxes();
     EnableSurveyTabs(false);
+    // A save now tries a new survey, and is told that there is one of this ship, voyage and port.
+    mHeaderDirty = true;
 }
 
 void SurveyWindow::TellNoSurvey()

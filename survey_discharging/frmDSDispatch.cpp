@@ -13,6 +13,12 @@ namespace
 constexpr double kNoConstant = 99999.9999;
 constexpr int kCargoPlaces = 5;
 
+/// A net displacement that was never calculated counts as 0.
+Value Figure(const Value &value)
+{
+    return value.IsAbsent() ? Value(std::int16_t {0}) : value;
+}
+
 bool IsZero(const Value &value)
 {
     return value.IsAbsent() || value == Value(std::int16_t {0});
@@ -37,11 +43,7 @@ bool frmDSDispatch::Form_KeyPress(QKeyEvent &event)
 {
     if (event.key() != Qt::Key_F4 || !event.modifiers().testFlag(Qt::ControlModifier))
         return SurveyWindow::Form_KeyPress(event);
-    try {
-        static_cast<void>(Unload());
-    } catch (const RuntimeError &) {
-        // The window stays, and nobody is told.
-    }
+    static_cast<void>(Unload());
     return true;
 }
 
@@ -91,6 +93,8 @@ void frmDSDispatch::LoadDraft(const Stage &stage)
     } catch (const RuntimeError &) {
         // The loading window's name stands here, and is meant to.
         MsgBox("frmDraftSurvey::LoadDraft");
+        // The grid is blank by now: without its quantities the next save would take them for none.
+        ShowDeductions(DraftOf(stage).Deductions());
     }
 }
 
@@ -121,7 +125,7 @@ void frmDSDispatch::ShowInitialResults(const Value &netDisplacement)
 {
     ShowFinalCaptions({"Net Displacement", "LightShip", "Cargo + Constant"});
     const Value lightShip = mShip.LightShip();
-    const Value cargoAndConstant = netDisplacement - lightShip;
+    const Value cargoAndConstant = Figure(netDisplacement) - lightShip;
     ShowFinalCell(10, BlankIfZero(lightShip));
     ShowResultCell(BlankIfZero(cargoAndConstant), nullptr);
     const Value billOfLading = DecimalOrZero(mResults->txtBLQty->text());
@@ -140,9 +144,10 @@ void frmDSDispatch::ShowAssumedConstant(const Value &constant)
 void frmDSDispatch::ShowDailyResults(const Value &netDisplacement)
 {
     ShowFinalCaptions({"Net Displacement", "Initial Net Displacement", "Total Cargo Discharged"});
-    const Value initial = mInitDraft.NetDisplacement();
+    const Value initial = Figure(mInitDraft.NetDisplacement());
     ShowFinalCell(10, BlankIfZero(Round(initial, kCargoPlaces)));
-    ShowResultCell(BlankIfZero(Round(initial - netDisplacement, kCargoPlaces)), mResults->txtTotCargoDischarged);
+    ShowResultCell(BlankIfZero(Round(initial - Figure(netDisplacement), kCargoPlaces)),
+                   mResults->txtTotCargoDischarged);
     mResults->txtBLQtyAtLoadPort->setText(mResults->txtBLQty->text());
     // Where nothing has been discharged there is no number to take off, and the run ends here on purpose.
     const Value discharged = DecimalOf(mResults->txtTotCargoDischarged->text());
@@ -160,7 +165,7 @@ void frmDSDispatch::ShowFinalResults(const Value &netDisplacement)
         ui->fgrdFinalResult->SetCell(11, 1, QString());
         return;
     }
-    const Value initial = mInitDraft.NetDisplacement();
+    const Value initial = Figure(mInitDraft.NetDisplacement());
     ShowFinalCell(10, Round(initial, kCargoPlaces));
     ShowResultCell(Round(initial - netDisplacement, kCargoPlaces), mResults->txtFinTotCargoDis);
     // The list's row and not the ship of the survey, and meant to be: they are the same ship.
@@ -238,9 +243,10 @@ void frmDSDispatch::cmbDailyDateTime_Click()
     if (!initialPicked)
         mRsDailyList.Move(list.currentIndex(), Recordset::kBookmarkFirst);
     const Value netDisplacement = mRsDailyList.Fields("NetDisplacement");
-    if (IsZero(netDisplacement) || mInitDraft.NetDisplacement().IsAbsent())
+    if (IsZero(netDisplacement))
         return;
-    const Value previous = initialPicked ? Value(std::int16_t {0}) : mInitDraft.NetDisplacement() - netDisplacement;
+    const Value previous
+        = initialPicked ? Value(std::int16_t {0}) : Figure(mInitDraft.NetDisplacement()) - netDisplacement;
     ShowValue(*mResults->txtPrevDischargedCargo, previous);
     const QString discharged = mResults->txtTotCargoDischarged->text();
     if (!discharged.isEmpty())

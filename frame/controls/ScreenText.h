@@ -22,21 +22,21 @@ inline void ShowValue(QLineEdit &field, const Value &value)
     return field.text().toStdString();
 }
 
+[[nodiscard]] inline bool IsBlank(const QString &text)
+{
+    return text.trimmed().isEmpty();
+}
+
 /// The decimal of a field's text. Type mismatch (13) where it is no number.
 [[nodiscard]] inline Value DecimalOf(const QString &text)
 {
     return Value(text.toStdString()).ToDecimal();
 }
 
-/// The decimal of a text, 0 where it is empty.
+/// The decimal of a text, 0 where it is blank.
 [[nodiscard]] inline Value DecimalOrZero(const QString &text)
 {
-    return text.isEmpty() ? Value(Decimal()) : DecimalOf(text);
-}
-
-[[nodiscard]] inline bool IsBlank(const QString &text)
-{
-    return text.trimmed().isEmpty();
+    return IsBlank(text) ? Value(Decimal()) : DecimalOf(text);
 }
 
 /// A number strictly between two bounds; false for anything that is no number.

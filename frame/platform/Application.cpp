@@ -4,6 +4,7 @@
 #include "frame/platform/Fatal.h"
 #include "frame/platform/Form.h"
 
+#include <QAbstractButton>
 #include <QAbstractScrollArea>
 #include <QComboBox>
 #include <QKeyEvent>
@@ -92,7 +93,7 @@ void KeepFocusFromGround(QWidget *widget)
     const Form *form = FormAround(widget);
     const QWidget *focused = form ? form->focusWidget() : nullptr;
     for (; focused && widget != form; widget = widget->parentWidget()) {
-        if (widget->isAncestorOf(focused) && qobject_cast<QAbstractScrollArea *>(widget))
+        if (widget != focused && widget->isAncestorOf(focused) && qobject_cast<QAbstractScrollArea *>(widget))
             widget->setFocusPolicy(Qt::NoFocus);
     }
 }
@@ -115,7 +116,7 @@ bool PressTaken(QWidget *widget, const QPointerEvent &press)
     return true;
 }
 
-bool MnemonicTaken(QWidget *widget)
+bool MnemonicTaken(QWidget *widget, const QShortcutEvent &event)
 {
     const auto *label = qobject_cast<QLabel *>(widget);
     QWidget *target = label && label->buddy() ? label->buddy() : widget;
@@ -123,10 +124,17 @@ bool MnemonicTaken(QWidget *widget)
         return false;
     if (LeavingRefused(target))
         return true;
-    // Qt clicks a button without moving the focus there.
-    if (Form::Of(target) && TakesFocusByClick(target))
+    if (!Form::Of(target))
+        return false;
+    // Qt clicks a button without moving the focus there, and a moment later: a command that comes in between would find
+    // the figures of before.
+    if (TakesFocusByClick(target))
         target->setFocus(Qt::ShortcutFocusReason);
-    return false;
+    auto *button = qobject_cast<QAbstractButton *>(target);
+    if (!button || event.isAmbiguous())
+        return false;
+    button->click();
+    return true;
 }
 
 void KeepFocusFromWheel(QWidget *widget)
@@ -147,7 +155,7 @@ bool TakenFromWidget(QWidget *widget, QEvent *event)
     case QEvent::TouchBegin:
         return PressTaken(widget, *static_cast<QPointerEvent *>(event));
     case QEvent::Shortcut:
-        return MnemonicTaken(widget);
+        return MnemonicTaken(widget, *static_cast<QShortcutEvent *>(event));
     default:
         return false;
     }

@@ -1,0 +1,126 @@
+#include "masters/frmShipParticulars.h"
+
+#include "core/MsgBox.h"
+#include "core/numeric/NumericText.h"
+#include "frame/controls/ScreenText.h"
+#include "ui_frmShipParticulars.h"
+
+#include <optional>
+
+namespace
+{
+constexpr std::string_view kCaption = "Ship Particulars";
+constexpr std::int64_t kTenDigits = 10000000000;
+
+/// The decimal of a typed number; nothing where it lies out of a decimal's range.
+std::optional<Value> NumberOf(const std::string &text, std::int16_t places)
+{
+    try {
+        return Val2Dec(text, places);
+    } catch (const RuntimeError &error) {
+        if (error.Number() != ErrorNumber::Overflow)
+            throw;
+        return std::nullopt;
+    }
+}
+} // namespace
+
+const std::array<frmShipParticulars::NumberRule, 13> frmShipParticulars::kNumberRules {{
+    {"txtFwdX", -1000, 1000, 4, 4, "Invalid value.\n\nValue of Fwd-X can be  greater than -1000 and less than 1000."},
+    {"txtMidX", -1000, 1000, 4, 4, "Invalid value.\n\nValue of Mid-X can be  greater than -1000 and less than 1000."},
+    {"txtAftX", -1000, 1000, 4, 4, "Invalid value.\n\nValue of Aft-X can be  greater than -1000 and less than 1000."},
+    {"txtOfficialNo", 0, kTenDigits, -1, 0,
+     "Official No. can only be a number  greater than 0 and less than 10000000000."},
+    {"txtIMONo", 0, kTenDigits, -1, 0, "IMO No. can only be a number  greater than 0 and less than 10000000000."},
+    {"txtLOA", 0, 1000, 2, 2, "LOA can only be a positive number greater than 0 and less than 1000."},
+    {"txtLBP", 0, 1000, 2, 2, "LBP can only be a positive number greater than 0 and less than 1000."},
+    {"txtBreadth", 0, 1000, 3, 3, "Breadth can only be a positive number greater than 0 and less than 1000."},
+    {"txtLightShip", 0, 1000000, 4, 4,
+     "Value of Light Ship can only be a positive number greater than 0 and less than 1000000."},
+    {"txtGrossTonnage", 0, 1000000, 1, 1,
+     "Gross Tonnage can only be a positive number  greater than 0 and less than 1000000."},
+    {"txtNetTonnage", 0, 1000000, 1, 1,
+     "Net Tonnage can only be a positive number greater than 0 and less than 1000000."},
+    {"txtSummerDeadweight", 0, 1000000, 3, 3,
+     "Summer Deadweight can only be a positive number greater than 0 and less than 1000000."},
+    {"txtSummerDraft", 0, 100, 4, 4, "Summer Draft can only be a positive number greater than 0 and less than 100."},
+}};
+
+QLineEdit &frmShipParticulars::FieldOf(const NumberRule &rule) const
+{
+    return *findChild<QLineEdit *>(QLatin1String(rule.field));
+}
+
+void frmShipParticulars::ConnectChecks()
+{
+    for (const NumberRule &rule : kNumberRules)
+        OnValidate(&FieldOf(rule), [this, &rule](bool &cancel) { cancel = !Accepts(rule); });
+}
+
+bool frmShipParticulars::Accepts(const NumberRule &rule)
+{
+    QLineEdit &field = FieldOf(rule);
+    const auto refuse = [&field](std::string_view message) {
+        MsgBox(message, MsgIcon::Exclamation, kCaption);
+        field.clear();
+        return false;
+    };
+    const std::string text = field.text().trimmed().toStdString();
+    if (text.empty())
+        return true;
+    if (!IsNumericText(text))
+        return refuse("Invalid value. Only numbers are allowed.");
+    const std::optional<Value> number = NumberOf(text, rule.places);
+    if (!number || *number <= Value(Decimal(rule.above)) || *number >= Value(Decimal(rule.below)))
+        return refuse(rule.message);
+    ShowValue(field, Round(*number, rule.shownPlaces));
+    return true;
+}
+
+bool frmShipParticulars::ValidValues()
+{
+    for (const NumberRule &rule : kNumberRules) {
+        if (!Accepts(rule))
+            return false;
+    }
+    return true;
+}
+
+bool frmShipParticulars::ValidShip()
+{
+    const auto missing = [this](QWidget *field, const char *message) {
+        mFormMessage = message;
+        MoveFocus(field);
+        return false;
+    };
+    if (IsBlank(ui->cmbShipName->Text()))
+        return missing(ui->cmbShipName, "Please enter ship name.");
+    if (ui->dcbPortOfRegistry->Text().isEmpty())
+        return missing(ui->dcbPortOfRegistry, "Please choose the Port of Registry");
+    const struct {
+        QLineEdit *field;
+        const char *message;
+    } required[] = {
+        {ui->txtOfficialNo, "Please enter the Official No."},
+        {ui->txtSummerDraft, "Please enter the Summer Draft."},
+        {ui->txtSummerDeadweight, "Please enter the Summer Dead Weight."},
+        {ui->txtCallSign, "Please enter the Call Sign."},
+        {ui->txtFlag, "Please enter the Flag."},
+        {ui->txtIMONo, "Please enter the IMO No."},
+        {ui->txtGrossTonnage, "Please enter the Gross Tonnage."},
+        {ui->txtNetTonnage, "Please enter the Net Tonnage."},
+        {ui->txtLBP, "Please enter the LBP."},
+        {ui->txtLOA, "Please enter the LOA."},
+        {ui->txtBreadth, "Please enter the Breadth."},
+        {ui->txtFwdX, "Please enter the Fwd-X."},
+        {ui->txtMidX, "Please enter the Mid-X."},
+        {ui->txtAftX, "Please enter the Aft-X."},
+        {ui->txtLightShip, "Please enter the Light Ship."},
+    };
+    for (const auto &[field, message] : required) {
+        // Meant: a blank counts as an entry here.
+        if (field->text().isEmpty())
+            return missing(field, message);
+    }
+    return true;
+}

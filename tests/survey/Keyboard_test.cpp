@@ -1,0 +1,97 @@
+#include "tests/survey/SurveyDesk.h"
+
+#include <QTest>
+
+namespace
+{
+// A survey as a surveyor types it: the figures that the hydrostatic model gives for these marks are its own, so that
+// what is stored follows by subtracting the deductions by hand.
+class KeyboardOnly : public SurveyDesk
+{
+protected:
+    // Types texts into the fields from the present one on, with Enter after each.
+    void Walk(const QString &texts)
+    {
+        for (const QString &text : texts.split(' ')) {
+            Type(Frame(), text == "-" ? QString() : text);
+            Press(Qt::Key_Return);
+        }
+    }
+    void PressTab(Qt::Key towards)
+    {
+        GoTo("sstDraftSurvey");
+        Press(towards);
+    }
+    // A button pressed by its letter clicks a moment later.
+    void PressLetter(Qt::Key letter, const char *field, bool filled)
+    {
+        PressKey(Frame(), letter, Qt::AltModifier);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return Text(field).empty() != filled; })) << letter;
+    }
+
+    // From the density on: marks, deductions, a remark, the calculation and the save.
+    void EnterDraft(const char *marks, const char *deductions, const char *remark)
+    {
+        EXPECT_EQ(Focus(), "txtDensity");
+        Walk(marks);
+        EXPECT_EQ(Focus(), "txtGridTextbox");
+        Walk(deductions);
+        EXPECT_EQ(Focus(), "txtComments");
+        Type(Frame(), remark);
+        PressLetter(Qt::Key_C, "txtTrueMeanDraft", true);
+        SaveWell();
+    }
+};
+
+TEST_F(KeyboardOnly, AWholeSurveyIsEnteredSavedAndFoundAgain)
+{
+    AddShip();
+    Open();
+    EXPECT_EQ(Focus(), "dcbShip");
+    Press(Qt::Key_Down);
+    Press(Qt::Key_Return);
+    Walk("V-1/2024");
+    Press(Qt::Key_Down);
+    Press(Qt::Key_Return);
+    EXPECT_EQ(Focus(), "txtCargo");
+    Type(Frame(), "Iron ore");
+    Press(Qt::Key_Return);
+    EnterDraft("1.0150 12032024 0630 7.52 7.48 8.03 7.97 8.61 8.59", "350 120.5 20 100.25 0.5 10 5.12544 1.0625",
+               "Calm, no swell");
+    EXPECT_EQ(Text("txtConstant"), "204.74723");
+
+    PressTab(Qt::Key_Right);
+    EnterDraft("1.015 13032024 1405 8.10 8.10 8.35 8.33 8.60 8.60", "350 120.5 - - - - - -", "First daily");
+    EXPECT_EQ(Text("txtTotCargoOnboard"), "1536.05816");
+    PressLetter(Qt::Key_N, "txtDensity", false);
+    EnterDraft("1.016 14032024 0800 8.2 8.2 8.40 8.42 8.6 8.6", "- 120.5 - - - - - 0", "Second daily");
+    PressTab(Qt::Key_Right);
+    EnterDraft("1.0195 15032024 2359 8 8.02 8.1 8.1 8.3 8.28", "350 120.5 - - - - - -", "Done");
+    EXPECT_EQ(Text("txtTotCargoLoaded"), "671.79448");
+
+    EXPECT_EQ(StoredSurveys(), R"([1,1,"V-1/2024",1,"Iron ore",204.74723,1])");
+    EXPECT_EQ(StoredDrafts(), R"([1,1,0,202403120630,1.015,7.52,7.48,8.03,7.97,8.61,8.59,0,22304.74723,"Calm, no swell"]
+[2,1,2,202403131405,1.015,8.1,8.1,8.35,8.33,8.6,8.6,0,23840.80539,"First daily"]
+[3,1,2,202403140800,1.016,8.2,8.2,8.4,8.42,8.6,8.6,0,24489.91223,"Second daily"]
+[4,1,1,202403152359,1.0195,8.0,8.02,8.1,8.1,8.3,8.28,0,22976.54171,"Done"])");
+    EXPECT_EQ(StoredDeductions(),
+              "1:2=350 1:3=120.5 1:24=20 1:25=100.25 1:26=0.5 1:27=10 1:28=5.1254 1:29=1.0625 "
+              "2:2=350 2:3=120.5 3:3=120.5 4:2=350 4:3=120.5");
+
+    const std::string stored = Stored();
+    PressClose();
+    ASSERT_FALSE(IsOpen());
+    Open();
+    EXPECT_EQ(Texts({"dcbShip", "dcbVoyageID", "dcbPort", "txtCargo", "txtConstant", "mbxDate", "mbxTime"}),
+              "MV Worked V-1/2024 Richards Bay Iron ore 204.74723 12-03-2024 06:30");
+    EXPECT_EQ(Cell("fgrdDeduction", 6, 1), "5.1254");
+    PressTab(Qt::Key_Right);
+    EXPECT_EQ(Texts({"txtComments", "txtTotCargoOnboard"}), "Second daily 2185.165");
+    EXPECT_EQ(Items("dcbDate"), (std::vector<std::string> {"13-03-2024", "14-03-2024"}));
+    PressTab(Qt::Key_Right);
+    EXPECT_EQ(Text("txtFinalNetDisp"), "22976.54171");
+    PressClose();
+    EXPECT_FALSE(IsOpen());
+    EXPECT_EQ(Stored(), stored);
+}
+} // namespace

@@ -1,0 +1,254 @@
+#include "frame/platform/Settings.h"
+#include "tests/survey/SurveyDesk.h"
+
+#include <gmock/gmock.h>
+
+namespace
+{
+using testing::ElementsAre;
+
+const char *const kNewPrompt = "Save changes to draft/s";
+const char *const kDailyPrompt = "Save changes to daily draft";
+const char *const kBadConstant = "Invalid constant value.\n\nPlease check your input values.";
+const char *const kBadNet = "Invalid Net Displacement value.\n\nPlease check your input values.";
+
+class Save : public SurveyDesk
+{
+protected:
+    static std::string Setting() { return GetSetting("Draft Survey Loading", "RecordID", "none"); }
+    static std::string Count(const std::string &drafts)
+    {
+        return Ask("SELECT COUNT(*) FROM DraftDetails WHERE " + drafts).Text();
+    }
+    void ClickNewDaily() { Click(The("cmdNewDailyDraft")); }
+    void FillMoment(const char *date, const char *time)
+    {
+        Fill("mbxDate", date);
+        Fill("mbxTime", time);
+        Click(The("txtDensity"));
+    }
+};
+
+TEST_F(Save, AFirstSaveMakesTheSurveyAndOpensItsStages)
+{
+    AddShip();
+    Run("INSERT INTO DraftParticulars VALUES (7, 1, 'Earlier', 1, 'Grain', 0, False)");
+    Open();
+    EnterWorked("V-2");
+    EXPECT_FALSE(LaterTabsAreOn());
+    SaveWell();
+    EXPECT_EQ(StoredSurveys(), "[7,1,\"Earlier\",1,\"Grain\",0.0,0]\n[8,1,\"V-2\",1,\"Coal\",341.68513,1]");
+    EXPECT_EQ(Setting() + " " + Window().ButtonMask(), "8 111111111");
+    EXPECT_TRUE(LaterTabsAreOn());
+    EXPECT_THAT(Items("dcbVoyageID"), ElementsAre("V-2"));
+    EXPECT_THAT(Items("cmbDailyDateTime"), ElementsAre("Initial Draft"));
+    ExpectTold(kNoChanges, [&] { PressSave(); });
+
+    const std::string drafts = StoredDrafts();
+    Fill("txtCargo", "Coke");
+    SaveWell();
+    EXPECT_EQ(Ask("SELECT Cargo FROM DraftParticulars WHERE RecordID = 8").Text(), "Coke");
+    EXPECT_EQ(StoredDrafts(), drafts);
+}
+
+TEST_F(Save, WantsACalculationAndValidFigures)
+{
+    AddShip();
+    Open();
+    const auto expectRefused = [this](const char *text) { ExpectTold(text, [&] { PressSave(); }); };
+    expectRefused("Incomplete data...!\n\nPlease enter all the details and press calculate before saving.");
+    Pick("dcbShip", 0);
+    FillMarks(kWorkedMarks);
+    FillCell(0, "470.5");
+    Calculate();
+    expectRefused("Please enter/select Voyage-ID.");
+    Fill("dcbVoyageID", "V1");
+    expectRefused("Please select port name.");
+    Pick("dcbPort", 0);
+    expectRefused("Please enter value for cargo.");
+    Fill("txtCargo", "Coal");
+    for (const auto &[quantity, told] : {std::pair("900", kBadConstant), std::pair("23000", kBadNet)}) {
+        FillCell(0, quantity);
+        ExpectTold(told, [&] { Calculate(); });
+        EXPECT_TRUE(The<Grid>("fgrdFinalResult").IsRed(11, 1));
+        expectRefused(kBadConstant);
+    }
+    EXPECT_EQ(Stored(), "");
+}
+
+TEST_F(Save, AFailureMovesToTheDraftThatFails)
+{
+    StoreSurvey();
+    Open();
+    const std::string stored = Stored();
+    ClickTab("Daily");
+    Fill("txtDensity", "1.02");
+    const std::pair<const char *, std::function<void()>> ways[]
+        = {{nullptr, [&] { PressSave(); }}, {kNewPrompt, [&] { PressNew(); }}, {kClosePrompt, [&] { PressClose(); }}};
+    for (const auto &[prompt, way] : ways) {
+        ClickTab("Initial");
+        if (prompt)
+            Prompt(prompt, MsgAnswer::Yes);
+        ExpectTold(kBadNet, way);
+        EXPECT_EQ(Tab() + Text("txtDensity"), "Daily1.02");
+    }
+    Prompt(kDailyPrompt, MsgAnswer::Yes);
+    ExpectTold(kBadNet, [&] { ClickNewDaily(); });
+    EXPECT_EQ(Stored(), stored);
+}
+
+TEST_F(Save, NewAsksWhereADraftHasChanged)
+{
+    StoreSurvey();
+    Open();
+    const std::string stored = Stored();
+    const auto expectAnswered = [&](MsgAnswer answer, const char *mark) {
+        Fill("txtAftStbd", mark);
+        Prompt(kNewPrompt, answer);
+        PressNew();
+        mMessages.ExpectNoneLeft();
+        EXPECT_EQ(Stored() == stored, answer != MsgAnswer::Yes);
+        EXPECT_EQ(Texts({"dcbShip", "txtFwdPort"}), answer == MsgAnswer::Cancel ? "MV Worked 7.52" : " ");
+    };
+    expectAnswered(MsgAnswer::Cancel, "8.58");
+    expectAnswered(MsgAnswer::No, "8.57");
+    EXPECT_EQ(Focus() + " " + Window().ButtonMask(), "dcbShip 011111011");
+    FillHeader();
+    Click(The("cmdGetDrafts"));
+    Fill("txtCargo", "Coke");
+    PressNew();
+    EXPECT_EQ(Text("txtCargo"), "") << "a change of the cargo alone is not asked for";
+    FillHeader();
+    Click(The("cmdGetDrafts"));
+    ClickTab("Final");
+    ClickTab("Initial");
+    expectAnswered(MsgAnswer::Yes, "8.56");
+    EXPECT_EQ(Count("AftStbdDraft = 8.56"), "1");
+}
+
+TEST_F(Save, NewDailyAsksForAllDraftsAndClosingForTheHeaderToo)
+{
+    StoreSurvey();
+    StoreDraft(2, "202403131405");
+    Open();
+    ClickTab("Daily");
+    Fill("txtComments", "One");
+    Prompt(kDailyPrompt, MsgAnswer::Cancel);
+    ClickNewDaily();
+    EXPECT_EQ(Text("txtComments"), "One");
+    Prompt(kDailyPrompt, MsgAnswer::Yes);
+    ClickNewDaily();
+    EXPECT_EQ(Count("Comments = 'One'"), "1");
+    EXPECT_EQ(Texts({"txtComments", "txtFwdPort", "mbxDate", "txtCargo"}), "  14-03-2024 Coal");
+    FillMarks(kDailyMarks);
+    Prompt(kDailyPrompt, MsgAnswer::No);
+    ClickNewDaily();
+    EXPECT_EQ(Text("txtFwdPort") + Count("True"), "2");
+
+    ClickTab("Initial");
+    Fill("txtCargo", "Coke");
+    Prompt(kClosePrompt, MsgAnswer::Cancel);
+    PressClose();
+    ASSERT_TRUE(IsOpen());
+    Fill("dcbVoyageID", "");
+    Prompt(kClosePrompt, MsgAnswer::Yes);
+    ExpectTold("Voyage-ID has left empty.\n\nPlease select a Voyage-ID and try again.", [&] { PressClose(); });
+    ASSERT_TRUE(IsOpen());
+    Fill("dcbVoyageID", "V2");
+    Prompt(kClosePrompt, MsgAnswer::Yes);
+    PressClose();
+    EXPECT_FALSE(IsOpen());
+    EXPECT_EQ(StoredSurveys(), R"([1,1,"V2",1,"Coke",341.68513,1])");
+}
+
+TEST_F(Save, ASurveyStandsInTheStoreOnce)
+{
+    const char *const aborted = "Save aborted.\n\nYou already have a draft with specified Ship, VoyageID, and Port.";
+    StoreSurvey();
+    SaveSetting("Draft Survey Loading", "RecordID", "-1");
+    const std::string stored = Stored();
+    Open();
+    EnterWorked("V1");
+    ExpectTold(aborted, [&] { PressSave(); });
+    Prompt(kClosePrompt, MsgAnswer::Yes);
+    ExpectTold(aborted, [&] { PressClose(); });
+    ASSERT_TRUE(IsOpen());
+    EXPECT_EQ(Stored() + Setting(), stored + "-1");
+    EXPECT_FALSE(LaterTabsAreOn());
+    Fill("dcbVoyageID", "V2");
+    SaveWell();
+    EXPECT_EQ(Setting(), "2");
+}
+
+TEST_F(Save, TwoDailyDraftsOfOneMomentAreToldAtSaveAndEndTheProgramElsewhere)
+{
+    StoreSurvey();
+    StoreDraft(2, "202403131405");
+    Open();
+    ClickTab("Daily");
+    ClickNewDaily();
+    FillMarks(kDailyMarks);
+    FillMoment("13032024", "1405");
+    Calculate();
+    ExpectTold("You are trying to update two or more drafts with same Date & Time.\n\n"
+               "Please correct it and try again.",
+               [&] { PressSave(); });
+    FillMoment("13032024", "1406");
+    SaveWell();
+    EXPECT_THAT(Items("cmbTime"), testing::UnorderedElementsAre("14:05", "14:06"));
+
+    const std::string stored = Stored();
+    FillMoment("13032024", "1405");
+    FatalRecorder fatal;
+    Prompt(kDailyPrompt, MsgAnswer::Yes);
+    ClickNewDaily();
+    Prompt(kClosePrompt, MsgAnswer::Yes);
+    PressClose();
+    EXPECT_THAT(fatal.Numbers(), ElementsAre(ErrorNumber::Overflow, ErrorNumber::Overflow));
+    EXPECT_EQ(Stored(), stored);
+}
+
+TEST_F(Save, DeletingAsksAndTakesWhatItNames)
+{
+    const std::tuple<const char *, const char *, const char *, const char *> stages[]
+        = {{"Daily", "Are you sure to delete the daily draft ?", "One record has been deleted successfully.", "3"},
+           {"Final", "Are you sure to delete the final draft ?", "One record has been deleted successfully.", "2"},
+           {"Initial",
+            "Deletion of Initial draft will also delete Final and all Daily drafts.\n\nAre you sure to continue ?",
+            "Drafts deleted successfully.", "0"}};
+    const auto answer = [this](const char *prompt, MsgAnswer given) { Prompt(prompt, given, MsgButtons::YesNo); };
+    StoreSurvey();
+    StoreDraft(2, "202403131405");
+    StoreDraft(2, "202403140800", "24139.91223");
+    StoreDraft(1, "202403150800");
+    Open();
+    Run("PRAGMA query_only = ON");
+    const std::string stored = Stored();
+    for (const auto &[stage, prompt, told, drafts] : stages) {
+        ClickTab(stage);
+        answer(prompt, MsgAnswer::No);
+        PressDelete();
+        answer(prompt, MsgAnswer::Yes);
+        const std::string what = *drafts == '0' ? "draft/s" : "the current draft";
+        ExpectTold(
+            "An internal error has occured while deleting " + what
+                + "\n\nPlease contact us with the error no. on the titlebar of this dialog box.",
+            [&] { PressDelete(); }, MsgIcon::Critical, *drafts == '2' ? "Keelmark10000" : "Keelmark-10000");
+        EXPECT_EQ(Stored() + Text("txtFwdPort"), stored + (*drafts == '0' ? "7.52" : "8.1"));
+    }
+    Run("PRAGMA query_only = OFF");
+    for (const auto &[stage, prompt, told, drafts] : stages) {
+        ClickTab(stage);
+        answer(prompt, MsgAnswer::Yes);
+        ExpectTold(
+            told, [&] { PressDelete(); }, MsgIcon::Information);
+        EXPECT_EQ(Count("True") + Texts({"txtFwdPort", "txtTrueMeanDraft"}), std::string(drafts) + " ") << stage;
+        EXPECT_EQ(Window().ButtonMask(), *drafts == '0' ? "011111011" : "111111011");
+        EXPECT_EQ(Count("DateTime = 202403140800"), "0") << "the latest Daily draft was on show";
+    }
+    EXPECT_EQ(Stored() + Setting(), "0");
+    EXPECT_FALSE(LaterTabsAreOn());
+    PressClose();
+    EXPECT_FALSE(IsOpen());
+}
+} // namespace
