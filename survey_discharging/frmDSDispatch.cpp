@@ -93,8 +93,6 @@ void frmDSDispatch::LoadDraft(const Stage &stage)
     } catch (const RuntimeError &) {
         // The loading window's name stands here, and is meant to.
         MsgBox("frmDraftSurvey::LoadDraft");
-        // The grid is blank by now: without its quantities the next save would take them for none.
-        ShowDeductions(DraftOf(stage).Deductions());
     }
 }
 

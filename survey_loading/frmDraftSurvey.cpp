@@ -4,6 +4,8 @@
 #include "survey/SurveyControls.h"
 #include "ui_LoadingResults.h"
 
+#include "core/numeric/NumericText.h"
+
 #include "frame/controls/Colours.h"
 
 namespace
@@ -95,14 +97,14 @@ bool frmDraftSurvey::ShowDailyResults(clsDraft &draft)
     ShowFinalCaptions({"Net Displacement", "Light Ship", "Constant"});
     ui->fgrdFinalResult->SetBold(9, 0, true);
     const Value lightShip = mShip.LightShip();
-    const Value constant = mInitDraft.NetDisplacement() - lightShip;
     const Value netDisplacement = draft.NetDisplacement();
-    if (netDisplacement.IsAbsent() || netDisplacement == Zero()) {
+    if (netDisplacement.IsAbsent() || netDisplacement == Zero() || mInitDraft.NetDisplacement().IsAbsent()) {
         mResults->txtPrevLoadedCargo->clear();
         ui->fgrdFinalResult->SetCell(10, 1, QString());
         ui->fgrdFinalResult->SetCell(11, 1, QString());
         return false;
     }
+    const Value constant = mInitDraft.NetDisplacement() - lightShip;
     ShowFinalCell(10, lightShip);
     ShowFinalCell(11, constant);
     ShowCargoOnboard(Round((netDisplacement - lightShip) - constant, 5));
@@ -120,7 +122,8 @@ void frmDraftSurvey::ShowCargoOnboard(const Value &cargo)
     if (IsNegative(cargo))
         TellInvalidInput("Invalid value of Total Cargo on board.");
     const QString intended = mResults->txtCargoIntendedToLoad->text();
-    if (!intended.isEmpty())
+    // The field's own check looks at another field first, so letters may stand here.
+    if (IsNumericText(intended.toStdString()))
         ShowBalance(DecimalOf(intended) - cargo);
 }
 
@@ -136,7 +139,7 @@ bool frmDraftSurvey::ShowFinalResults(clsDraft &draft)
 {
     ShowFinalCaptions({"Final Net Displacement", "Initial Net Displacement", "Total Cargo Loaded"});
     const Value netDisplacement = draft.NetDisplacement();
-    if (netDisplacement.IsAbsent() || netDisplacement == Zero()) {
+    if (netDisplacement.IsAbsent() || netDisplacement == Zero() || mInitDraft.NetDisplacement().IsAbsent()) {
         ui->fgrdFinalResult->SetCell(10, 1, QString());
         ui->fgrdFinalResult->SetCell(11, 1, QString());
         return false;

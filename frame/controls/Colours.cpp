@@ -39,7 +39,7 @@ public:
         if (red)
             Paint();
         else
-            mField.setPalette(mOwn);
+            GiveBack();
     }
 
     [[nodiscard]] bool IsRed() const { return mRed; }
@@ -60,6 +60,14 @@ private:
             return;
         palette.setColor(QPalette::Text, red);
         mField.setPalette(palette);
+    }
+
+    /// Over the present background: the theme may not be the one under which the text turned red.
+    void GiveBack()
+    {
+        if (mField.isReadOnly())
+            mOwn.setBrush(QPalette::Base, mField.palette().base());
+        mField.setPalette(mOwn);
     }
 
     QLineEdit &mField;
