@@ -79,10 +79,17 @@ void clsDraft::ShipID(const Value &shipID)
 
 void clsDraft::InitDeductions()
 try {
-    mDeductions->Reopen("SELECT * FROM DeductionTrans WHERE DraftID = -1", CursorType::Keyset,
-                        LockType::BatchOptimistic);
+    OpenDeductions(-1);
 } catch (const RuntimeError &error) {
     MsgBox(error.Description().append(kTwoLineBreaks).append("Source :  clsDraft::InitDeductions"), MsgIcon::Critical);
+}
+
+void clsDraft::OpenDeductions(std::int32_t draftID)
+{
+    if (mDeductions->State() == 1)
+        mDeductions->Close();
+    mDeductions->Open("SELECT * FROM DeductionTrans WHERE DraftID = " + std::to_string(draftID), CursorType::Keyset,
+                      LockType::BatchOptimistic);
 }
 
 Value clsDraft::GetTotDeductibles()

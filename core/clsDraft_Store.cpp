@@ -18,6 +18,8 @@ std::int32_t clsDraft::SaveDraft(std::int32_t recordID)
     try {
         if (mDraftMode == 0) {
             mDraftID = GetNewDraftID();
+            if (mDraftID == 0)
+                return ReturnCode::SaveDraftFailed;
             gConnection->Execute(InsertStatement(recordID));
             mRecordID = recordID;
         } else {
@@ -128,8 +130,7 @@ void clsDraft::ReadRow()
 
 void clsDraft::ReadDeductions()
 {
-    mDeductions->Reopen("SELECT * FROM DeductionTrans WHERE DraftID = " + std::to_string(mDraftID), CursorType::Keyset,
-                        LockType::BatchOptimistic);
+    OpenDeductions(mDraftID);
     if (mDeductions->RecordCount() < 1) {
         mTotDeductibles = std::int16_t {0};
         return;
