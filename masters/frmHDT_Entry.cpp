@@ -242,6 +242,8 @@ void frmHDT::ClearEntryRow()
 {
     for (int column = 0; column < HydrostaticColumn::Count; ++column)
         EntryCell(column, QString());
+    // Nothing of a row is left that a save would ask to be completed.
+    mRowStarted = false;
     txtGridTextbox->clear();
     ui->fgrdInsertHD->SetCurrent(kEntryRow, 0);
     txtGridTextbox->setFocus();

@@ -276,6 +276,16 @@ TEST_F(HydrostaticTable, ARowAddedAfterADeleteLeavesAnEmptyOneThatTheStoreRefuse
     EXPECT_EQ(Shown(), "8 8.1 9  ");
 }
 
+TEST_F(HydrostaticTable, ADeletionIsSavedAfterAVisitToTheEntryRow)
+{
+    Open();
+    ClickRow(0);
+    ClickEntry(0);
+    DeleteFirstRow();
+    SaveWell();
+    EXPECT_EQ(Stored(), "8:4.1 8.1:4.2");
+}
+
 TEST_F(HydrostaticTable, TheLastRowTakesTheDeleteCommandWithIt)
 {
     Open();
