@@ -143,8 +143,8 @@ private:
 
     void CalculateDrafts();
     [[nodiscard]] bool CalculateAtTrueMeanDraft();
-    [[nodiscard]] bool TakeBelowRow();
-    [[nodiscard]] bool TakeAboveRow();
+    /// Row 0 below or 1 above the true mean draft. False where a message has told why there is none.
+    [[nodiscard]] bool TakeBoundRow(std::int16_t row);
     [[nodiscard]] bool TakeResultantVals();
     void FillBoundRow(std::size_t row);
     void CalculateNetDisplacement();

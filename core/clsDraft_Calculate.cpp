@@ -93,7 +93,7 @@ void clsDraft::CalculateDrafts()
 
 bool clsDraft::CalculateAtTrueMeanDraft()
 {
-    if (!TakeBelowRow() || !TakeAboveRow() || !TakeResultantVals())
+    if (!TakeBoundRow(0) || !TakeBoundRow(1) || !TakeResultantVals())
         return false;
 
     const clsHydrostaticData &table = *mHydrostatics;
@@ -116,46 +116,23 @@ bool clsDraft::CalculateAtTrueMeanDraft()
     return true;
 }
 
-bool clsDraft::TakeBelowRow()
+bool clsDraft::TakeBoundRow(std::int16_t row)
 {
-    switch (mHydrostatics->getBound(mTrueMeanDraft, 0)) {
-    case ReturnCode::Success:
-        FillBoundRow(0);
-        return true;
-    case ReturnCode::DraftBelowTable:
-        TellInvalidInput(kBelowTable);
-        return false;
-    case ReturnCode::NoMCTCPlus50:
-        TellInvalidInput(kNoMCTCPlus50);
-        return false;
-    case ReturnCode::NoMCTCMinus50:
-        TellInvalidInput(kNoMCTCMinus50);
-        return false;
-    default:
+    const bool below = row == 0;
+    const std::int32_t code = mHydrostatics->getBound(mTrueMeanDraft, row);
+    if (code == ReturnCode::Success) {
+        FillBoundRow(static_cast<std::size_t>(row));
         return true;
     }
-}
-
-bool clsDraft::TakeAboveRow()
-{
-    switch (mHydrostatics->getBound(mTrueMeanDraft, 1)) {
-    case ReturnCode::Success:
-        FillBoundRow(1);
-        for (std::size_t column = 0; column < mHDT[2].size(); ++column)
-            mHDT[2][column] = mHDT[1][column] - mHDT[0][column];
-        return true;
-    case ReturnCode::DraftAboveTable:
-        TellInvalidInput(kAboveTable);
-        return false;
-    case ReturnCode::NoMCTCPlus50:
+    if (code == (below ? ReturnCode::DraftBelowTable : ReturnCode::DraftAboveTable))
+        TellInvalidInput(below ? kBelowTable : kAboveTable);
+    else if (code == ReturnCode::NoMCTCPlus50)
         TellInvalidInput(kNoMCTCPlus50);
-        return false;
-    case ReturnCode::NoMCTCMinus50:
+    else if (code == ReturnCode::NoMCTCMinus50)
         TellInvalidInput(kNoMCTCMinus50);
-        return false;
-    default:
+    else
         return true;
-    }
+    return false;
 }
 
 bool clsDraft::TakeResultantVals()
@@ -173,6 +150,8 @@ void clsDraft::FillBoundRow(std::size_t row)
     const clsHydrostaticData &table = *mHydrostatics;
     mHDT[row] = {Round(table.TMD(), 3), Round(table.Displacement(), 3), Round(table.TPC(), 3),
                  Round(table.LCF(), 3), Round(table.MCTCPlus50(), 3),   Round(table.MCTCMinus50(), 3)};
+    for (std::size_t column = 0; row == 1 && column < mHDT[2].size(); ++column)
+        mHDT[2][column] = mHDT[1][column] - mHDT[0][column];
 }
 
 void clsDraft::CalculateNetDisplacement()

@@ -128,7 +128,7 @@ void SurveyWindow::CollectDeductions(const Stage &stage)
     if (cancel)
         return;
     Recordset &deductions = DraftOf(stage).Deductions();
-    if (mRsItems.State() != 1)
+    if (mRsItems.State() != 1 || deductions.State() != 1)
         return;
     int row = 0;
     for (mRsItems.MoveFirst(); !mRsItems.AtEnd(); mRsItems.MoveNext()) {

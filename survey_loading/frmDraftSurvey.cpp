@@ -98,11 +98,13 @@ bool frmDraftSurvey::ShowDailyResults(clsDraft &draft)
     ui->fgrdFinalResult->SetBold(9, 0, true);
     const Value lightShip = mShip.LightShip();
     const Value netDisplacement = draft.NetDisplacement();
-    if (netDisplacement.IsAbsent() || netDisplacement == Zero() || mInitDraft.NetDisplacement().IsAbsent()) {
+    // Where only the Initial draft has no figure, the quantities of this one are shown all the same.
+    const bool noInitial = mInitDraft.NetDisplacement().IsAbsent();
+    if (netDisplacement.IsAbsent() || netDisplacement == Zero() || noInitial) {
         mResults->txtPrevLoadedCargo->clear();
         ui->fgrdFinalResult->SetCell(10, 1, QString());
         ui->fgrdFinalResult->SetCell(11, 1, QString());
-        return false;
+        return noInitial && !netDisplacement.IsAbsent() && netDisplacement != Zero();
     }
     const Value constant = mInitDraft.NetDisplacement() - lightShip;
     ShowFinalCell(10, lightShip);
@@ -123,7 +125,9 @@ void frmDraftSurvey::ShowCargoOnboard(const Value &cargo)
         TellInvalidInput("Invalid value of Total Cargo on board.");
     const QString intended = mResults->txtCargoIntendedToLoad->text();
     // The field's own check looks at another field first, so letters may stand here.
-    if (IsNumericText(intended.toStdString()))
+    if (!IsBlank(intended) && !IsNumericText(intended.toStdString()))
+        mResults->txtBalCargoToLoad->clear();
+    else if (!IsBlank(intended))
         ShowBalance(DecimalOf(intended) - cargo);
 }
 
@@ -139,10 +143,12 @@ bool frmDraftSurvey::ShowFinalResults(clsDraft &draft)
 {
     ShowFinalCaptions({"Final Net Displacement", "Initial Net Displacement", "Total Cargo Loaded"});
     const Value netDisplacement = draft.NetDisplacement();
-    if (netDisplacement.IsAbsent() || netDisplacement == Zero() || mInitDraft.NetDisplacement().IsAbsent()) {
+    // Where only the Initial draft has no figure, the quantities of this one are shown all the same.
+    const bool noInitial = mInitDraft.NetDisplacement().IsAbsent();
+    if (netDisplacement.IsAbsent() || netDisplacement == Zero() || noInitial) {
         ui->fgrdFinalResult->SetCell(10, 1, QString());
         ui->fgrdFinalResult->SetCell(11, 1, QString());
-        return false;
+        return noInitial && !netDisplacement.IsAbsent() && netDisplacement != Zero();
     }
     const Value cargo = Round(netDisplacement - mInitDraft.NetDisplacement(), 5);
     ShowFinalCell(10, Round(mInitDraft.NetDisplacement(), 5));

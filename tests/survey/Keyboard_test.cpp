@@ -1,3 +1,4 @@
+#include "survey_discharging/frmDSDispatch.h"
 #include "tests/survey/SurveyDesk.h"
 
 #include <QTest>
@@ -8,6 +9,9 @@ namespace
 // what is stored follows by subtracting the deductions by hand.
 class KeyboardOnly : public SurveyDesk
 {
+public:
+    using SurveyDesk::SurveyDesk;
+
 protected:
     // Types texts into the fields from the present one on, with Enter after each.
     void Walk(const QString &texts)
@@ -93,5 +97,49 @@ TEST_F(KeyboardOnly, AWholeSurveyIsEnteredSavedAndFoundAgain)
     PressClose();
     EXPECT_FALSE(IsOpen());
     EXPECT_EQ(Stored(), stored);
+}
+
+class DischargingByKeyboard : public KeyboardOnly
+{
+protected:
+    DischargingByKeyboard()
+        : KeyboardOnly(ChildWindow::Discharging, [] { return new frmDSDispatch; })
+    {
+    }
+};
+
+TEST_F(DischargingByKeyboard, AWholeSurveyIsEnteredAndSaved)
+{
+    AddShip();
+    Open();
+    Press(Qt::Key_Down);
+    Press(Qt::Key_Return);
+    Walk("V-2");
+    Press(Qt::Key_Down);
+    Press(Qt::Key_Return);
+    Type(Frame(), "Iron ore");
+    Press(Qt::Key_Return);
+    EnterDraft("1.015 12032024 0630 8.10 8.10 8.35 8.33 8.60 8.60", "350 120.5 20 100.25 0.5 10 5.12544 1.0625",
+               "Calm");
+    EXPECT_EQ(Cell("fgrdFinalResult", 11, 1), "1603.86749");
+    GoTo("txtBLQty");
+    Walk("1400");
+    EXPECT_EQ(Text("txtAssumedConstant"), "203.86749");
+
+    PressTab(Qt::Key_Right);
+    EnterDraft("1.0195 13032024 1405 8 8.02 8.1 8.1 8.3 8.28", "- 120.5 - - - - - -", "First daily");
+    EXPECT_EQ(Texts({"txtTotCargoDischarged", "txtTolCargoOnboard"}), "377.32578 1022.67422");
+    PressLetter(Qt::Key_N, "txtDensity", false);
+    EnterDraft("1.0195 14032024 0800 8 8.02 8.1 8.1 8.3 8.28", "350 120.5 - - - - - -", "Second daily");
+    EXPECT_EQ(Texts({"txtTotCargoDischarged", "txtTolCargoOnboard"}), "727.32578 672.67422");
+    PressTab(Qt::Key_Right);
+    EnterDraft("1.0150 15032024 2359 7.52 7.48 8.03 7.97 8.61 8.59", "350 120.5 - - - - - -", "Done");
+    EXPECT_EQ(Texts({"txtFinTotCargoDis", "txtConstant"}), "1262.18236 341.68513");
+
+    EXPECT_EQ(StoredSurveys(), R"([1,1,"V-2",1,"Iron ore",99999.9999,0])");
+    EXPECT_EQ(StoredDrafts(), R"([1,1,0,202403120630,1.015,8.1,8.1,8.35,8.33,8.6,8.6,0,23703.86749,"Calm"]
+[2,1,2,202403131405,1.0195,8.0,8.02,8.1,8.1,8.3,8.28,0,23326.54171,"First daily"]
+[3,1,2,202403140800,1.0195,8.0,8.02,8.1,8.1,8.3,8.28,0,22976.54171,"Second daily"]
+[4,1,1,202403152359,1.015,7.52,7.48,8.03,7.97,8.61,8.59,0,22441.68513,"Done"])");
 }
 } // namespace
