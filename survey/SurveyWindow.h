@@ -120,8 +120,6 @@ protected:
     /// The Daily tab is about to show its draft.
     virtual void BeforeDailyShown() { }
     virtual void ReportTabFailure();
-    /// The survey's row was found but its drafts cannot be brought up.
-    virtual void DraftsNotBroughtUp();
     /// Whether a new Daily draft starts after this answer to the question about unsaved changes.
     [[nodiscard]] virtual bool StartsNewDaily(MsgAnswer answer);
     /// What is wrong with the constant and the net displacement of mCurDraft; empty where nothing is.
@@ -249,6 +247,8 @@ private:
     void FetchSurvey();
     void GetDailyDraft();
     void ShowFoundSurvey();
+    /// The survey's row was found but its drafts cannot be brought up.
+    void DraftsNotBroughtUp();
     void TellNoSurvey();
 
     void fgrdDeduction_EnterCell();

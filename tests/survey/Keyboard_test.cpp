@@ -108,6 +108,33 @@ protected:
     }
 };
 
+TEST_F(DischargingByKeyboard, TheBillOfLadingHasItsBounds)
+{
+    Open();
+    const char *const kNoNumber = "Invalid value for Bill of Lading quantity.\n\nPlease enter numeric value.";
+    const char *const kOutOfRange = "Invalid value for Invalid value for Bill of Lading quantity.\n\n"
+                                    "Please enter value  greater than 0 and less than 1000000.";
+    struct Case {
+        const char *typed;
+        const char *shown;
+        const char *refusal;
+        const char *assumedConstant;
+    };
+    for (const Case &one :
+         {Case {"0", "0", nullptr, ""}, Case {"-0.00001", "", kOutOfRange, ""}, Case {"0.000001", "0", nullptr, ""},
+          Case {"abc", "", kNoNumber, ""}, Case {"999999.999999", "", kOutOfRange, ""},
+          Case {"1000000", "", kOutOfRange, ""}, Case {"999999.99999", "999999.99999", nullptr, "-999999.99999"}}) {
+        GoTo("txtBLQty");
+        if (one.refusal)
+            mMessages.Expect({.text = one.refusal, .icon = MsgIcon::Exclamation});
+        Walk(one.typed);
+        mMessages.ExpectNoneLeft();
+        EXPECT_EQ(Text("txtBLQty"), one.shown) << one.typed;
+        EXPECT_EQ(Text("txtAssumedConstant"), one.assumedConstant) << one.typed;
+        EXPECT_EQ(Focus() == "txtBLQty", one.refusal != nullptr) << one.typed;
+    }
+}
+
 TEST_F(DischargingByKeyboard, AWholeSurveyIsEnteredAndSaved)
 {
     AddShip();
