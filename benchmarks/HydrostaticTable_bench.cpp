@@ -1,3 +1,4 @@
+#include "benchmarks/BenchClock.h"
 #include "benchmarks/BenchStore.h"
 #include "benchmarks/RatioTable.h"
 
@@ -13,28 +14,13 @@
 #include <QLineEdit>
 
 #include <algorithm>
-#include <chrono>
 #include <sqlite3.h>
 #include <vector>
 
 namespace
 {
-constexpr double kFrameMicroseconds = 16000.0;
 constexpr int kRows = 2000;
 constexpr int kColumns = 8;
-
-using Clock = std::chrono::steady_clock;
-
-double SecondsSince(Clock::time_point start)
-{
-    return std::chrono::duration<double>(Clock::now() - start).count();
-}
-
-void PaintAll()
-{
-    QCoreApplication::sendPostedEvents();
-    QCoreApplication::processEvents();
-}
 
 /// The editor in the main window, on the ship's table.
 class OpenEditor

@@ -1,3 +1,4 @@
+#include "benchmarks/BenchClock.h"
 #include "benchmarks/BenchStore.h"
 #include "benchmarks/RatioTable.h"
 
@@ -8,17 +9,8 @@
 
 #include <QCoreApplication>
 
-#include <chrono>
-
 namespace
 {
-using Clock = std::chrono::steady_clock;
-
-double SecondsSince(Clock::time_point start)
-{
-    return std::chrono::duration<double>(Clock::now() - start).count();
-}
-
 /// One port with 100 ships and 10,000 surveys.
 void FillPort(const BenchStore &store)
 {

@@ -1,3 +1,4 @@
+#include "benchmarks/BenchClock.h"
 #include "benchmarks/BenchStore.h"
 #include "benchmarks/RatioTable.h"
 
@@ -12,25 +13,9 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-#include <chrono>
-
 namespace
 {
-constexpr double kFrameMicroseconds = 16000.0;
 constexpr int kRows = 200;
-
-using Clock = std::chrono::steady_clock;
-
-double SecondsSince(Clock::time_point start)
-{
-    return std::chrono::duration<double>(Clock::now() - start).count();
-}
-
-void PaintAll()
-{
-    QCoreApplication::sendPostedEvents();
-    QCoreApplication::processEvents();
-}
 
 /// The Loading window in the main window, on a store with one survey of ship 1 that its setting names.
 class OpenWindow

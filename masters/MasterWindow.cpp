@@ -2,24 +2,12 @@
 
 #include "core/numeric/RuntimeError.h"
 #include "frame/controls/DataList.h"
+#include "frame/controls/Headings.h"
 #include "frame/mdlMain.h"
 
 #include <QEvent>
 #include <QLabel>
 #include <QLineEdit>
-
-namespace
-{
-constexpr double kHeadingSize = 1.2;
-constexpr double kLegendSize = 0.9;
-
-void ScaleFont(QWidget &widget, double factor)
-{
-    QFont font = widget.font();
-    font.setPointSizeF(font.pointSizeF() * factor);
-    widget.setFont(font);
-}
-} // namespace
 
 MasterWindow::MasterWindow(const Kind &kind, QWidget *parent)
     : Form(parent)

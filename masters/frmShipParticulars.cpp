@@ -1,5 +1,6 @@
 #include "masters/frmShipParticulars.h"
 
+#include "frame/controls/Headings.h"
 #include "frame/controls/ScreenText.h"
 #include "frame/mdlMain.h"
 #include "ui_frmShipParticulars.h"
@@ -10,15 +11,6 @@
 
 namespace
 {
-constexpr double kHeadingSize = 1.2;
-constexpr double kLegendSize = 0.9;
-
-void ScaleFont(QWidget &widget, double factor)
-{
-    QFont font = widget.font();
-    font.setPointSizeF(font.pointSizeF() * factor);
-    widget.setFont(font);
-}
 
 QString StoredText(const Value &value)
 {
