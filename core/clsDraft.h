@@ -71,6 +71,8 @@ public:
     /// The draft was read from or written to the store.
     [[nodiscard]] bool HasRecord() const { return mHasRecord; }
     void HasRecord(bool hasRecord) { mHasRecord = hasRecord; }
+    /// There is a draft: one that is in the store, or one that is being made.
+    [[nodiscard]] bool IsThere() const { return mHasRecord || mToSave; }
     /// The quantities of this draft (DraftID, ItemID, Quantity), kept in memory until SaveDraft.
     [[nodiscard]] Recordset &Deductions() { return *mDeductions; }
 

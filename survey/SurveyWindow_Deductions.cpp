@@ -97,7 +97,7 @@ void SurveyWindow::ShowDeductions(Recordset &deductions)
     ClearDeductions();
     Grid &grid = *ui->fgrdDeduction;
     const clsDraft &draft = DraftOf(ActiveStage());
-    if ((!draft.ToSave() && !draft.HasRecord()) || mRsItems.State() != 1 || deductions.State() != 1)
+    if (!draft.IsThere() || mRsItems.State() != 1 || deductions.State() != 1)
         return;
     if (deductions.RecordCount() < 1) {
         if (draft.HasRecord())

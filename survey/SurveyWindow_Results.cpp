@@ -118,7 +118,7 @@ void SurveyWindow::ShowDrafts(clsDraft &draft)
     ShowValue(*ui->txtFwdMean, RoundField(draft.FwdMean(), 3));
     ShowValue(*ui->txtMidshipMean, RoundField(draft.MidMean(), 3));
     ShowValue(*ui->txtAftMean, RoundField(draft.AftMean(), 3));
-    if (draft.HasRecord() || draft.ToSave())
+    if (draft.IsThere())
         ShowDeflection(draft);
     ShowValue(*ui->txtApparentTrim, RoundField(draft.ApparentTrim(), 7));
     ShowValue(*ui->txtFwdCorrection, RoundField(draft.FwdCorrection(), 3));

@@ -62,7 +62,7 @@ void SurveyWindow::sstDraftSurvey_Click(int previousTab)
         CollectDraft(Stage::OfTab(previousTab));
         const Stage stage = ActiveStage();
         const clsDraft &draft = DraftOf(stage);
-        const bool known = draft.HasRecord() || draft.ToSave();
+        const bool known = draft.IsThere();
         ShowStageControls(stage);
         if (stage == Stage::Daily) {
             ui->cmdNewDailyDraft->setEnabled(known);
