@@ -150,7 +150,8 @@ void frmMDI::ShowChild(Form &form)
 QMdiSubWindow *frmMDI::LoadChild(Form &form)
 {
     const QSize room = ChildRoom();
-    const QSize own = form.testAttribute(Qt::WA_Resized) ? form.size() : form.sizeHint();
+    // A large font may need more than the form's own size.
+    const QSize own = form.testAttribute(Qt::WA_Resized) ? form.size().expandedTo(form.sizeHint()) : form.sizeHint();
     QMdiSubWindow *window = mArea->addSubWindow(&form, TitleFlags(form));
     // The platform's close key there would make the menu's Ctrl+F4 ambiguous.
     for (QAction *action : window->systemMenu()->actions())

@@ -16,6 +16,11 @@ frmTipOfDay::frmTipOfDay(QWidget *parent)
     heading.setPointSizeF(heading.pointSizeF() * 1.4);
     heading.setBold(true);
     mUi->Label1->setFont(heading);
+    // Room for a long tip, whatever the font.
+    constexpr int kCharacters = 48;
+    constexpr int kLines = 7;
+    mUi->lblTipText->setMinimumSize(fontMetrics().averageCharWidth() * kCharacters,
+                                    fontMetrics().lineSpacing() * kLines);
     mUi->Picture1->setPixmap(Picture("TipOfDay").pixmap(QSize(40, 40)));
     mUi->fmeTip->setBackgroundRole(QPalette::Base);
     mUi->cmdOK->setFocus();

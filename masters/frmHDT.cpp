@@ -1,6 +1,7 @@
 #include "masters/frmHDT.h"
 
 #include "core/MsgBox.h"
+#include "frame/controls/Colours.h"
 #include "frame/controls/FloatingEditor.h"
 #include "frame/controls/ScreenText.h"
 #include "frame/mdlMain.h"
@@ -75,7 +76,7 @@ void frmHDT::BuildWindow()
         small.setPointSizeF(small.pointSizeF() * kLegendSize);
         legend->setFont(small);
     }
-    ShowLocked();
+    ShowLocked(*this);
 }
 
 void frmHDT::ConnectEvents()
@@ -90,20 +91,11 @@ void frmHDT::ConnectEvents()
     OnValidate(txtGridTextbox, [this](bool &cancel) { txtGridTextbox_Validate(cancel); });
 }
 
-void frmHDT::ShowLocked()
-{
-    for (QLineEdit *field : {ui->txtPortOfRegistry, ui->txtCallSign, ui->txtOfficialNo, ui->txtFlag, ui->txtIMONo}) {
-        QPalette locked = field->palette();
-        locked.setBrush(QPalette::Base, palette().window());
-        field->setPalette(locked);
-    }
-}
-
 void frmHDT::changeEvent(QEvent *event)
 {
     Form::changeEvent(event);
     if (event->type() == QEvent::PaletteChange)
-        ShowLocked();
+        ShowLocked(*this);
 }
 
 void frmHDT::Form_Load()

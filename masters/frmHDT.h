@@ -46,7 +46,6 @@ private:
     void BuildWindow();
     void FitColumns();
     void ConnectEvents();
-    void ShowLocked();
     void InitEntryGrid();
     void InitHDTRecordset();
     void InitShipRecordset();

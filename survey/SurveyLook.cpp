@@ -39,27 +39,16 @@ void FitFields(QWidget &window)
     }
 }
 
-void ShowLocked(QWidget &window)
-{
-    for (QLineEdit *field : window.findChildren<QLineEdit *>()) {
-        if (!field->isReadOnly())
-            continue;
-        QPalette palette = field->palette();
-        palette.setBrush(QPalette::Base, window.palette().window());
-        field->setPalette(palette);
-    }
-}
-
 void FitGrids(const Ui::SurveyWindow &ui)
 {
-    FitGrid(*ui.fgrdHDT, {8, 8, 12, 8, 8, 8, 8});
-    FitGrid(*ui.fgrdIpResult, {16, 12, 8, 8, 8, 8});
+    FitGrid(*ui.fgrdHDT, {8, 8, 11, 8, 8, 8, 8});
+    FitGrid(*ui.fgrdIpResult, {16, 11, 8, 8, 8, 8});
     // Its columns stand under those of the same names.
     ui.fgrdIpResult->setColumnWidth(0, ui.fgrdHDT->columnWidth(0) + ui.fgrdHDT->columnWidth(1));
     ui.fgrdIpResult->setMinimumWidth(ui.fgrdHDT->minimumWidth());
     FitGrid(*ui.fgrdResult, {10, 12});
     FitGrid(*ui.fgrdListCorrection, {6, 6, 6, 6});
-    FitGrid(*ui.fgrdFinalResult, {21, 13});
+    FitGrid(*ui.fgrdFinalResult, {21, 12});
     ui.fgrdDeduction->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
     ui.fgrdDeduction->setColumnWidth(1, DigitsWidth(*ui.fgrdDeduction, 12) + kCellMargins);
 }

@@ -9,8 +9,6 @@ class SurveyWindow;
 
 /// Gives every field of a window the width of as many digits as its property "characters" says.
 void FitFields(QWidget &window);
-/// Puts the window's own colour behind the fields that are locked; again after each change of the palette.
-void ShowLocked(QWidget &window);
 /// Column widths and heights of the result grids, so that each shows all its cells. After their rows and columns are
 /// set, and once only: the widths stay when cells are cleared.
 void FitGrids(const Ui::SurveyWindow &ui);

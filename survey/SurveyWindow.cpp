@@ -1,5 +1,6 @@
 #include "survey/SurveyWindow.h"
 
+#include "frame/controls/Colours.h"
 #include "frame/controls/FloatingEditor.h"
 #include "frame/controls/SelectOnFocus.h"
 #include "frame/mdlMain.h"
@@ -64,6 +65,9 @@ void SurveyWindow::FitStageFrames()
 
 QSize SurveyWindow::sizeHint() const
 {
+    // What was set after the last layout counts too.
+    ui->layDraftSurvey->activate();
+    ui->laySurvey->activate();
     // The scroll area's own hint is capped far below what the window holds.
     return ui->wgtSurvey->sizeHint();
 }

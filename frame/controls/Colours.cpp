@@ -95,3 +95,14 @@ bool IsRed(const QLineEdit &field)
     const RedText *text = RedText::Of(field);
     return text && text->IsRed();
 }
+
+void ShowLocked(QWidget &window)
+{
+    for (QLineEdit *field : window.findChildren<QLineEdit *>()) {
+        if (!field->isReadOnly())
+            continue;
+        QPalette palette = field->palette();
+        palette.setBrush(QPalette::Base, window.palette().window());
+        field->setPalette(palette);
+    }
+}
