@@ -70,13 +70,14 @@ Criterion::Criterion(std::string_view text, const RowTable &table, BareText bare
     ReadOperator(text);
     if (text.empty())
         RefuseCriterion();
-    if (text.front() == '\'')
+    const bool quoted = text.front() == '\'';
+    if (quoted)
         ReadQuoted(text);
     else
         mText = text;
     if (const std::string_view bare = Trimmed(mText); IsPlainNumber(bare))
-        ReadNumber(bare);
-    else if (text.front() != '\'' && bareText == BareText::Refused)
+        ReadNumber(bare, quoted);
+    else if (!quoted && bareText == BareText::Refused)
         RefuseCriterion();
 }
 
@@ -113,8 +114,8 @@ void Criterion::ReadQuoted(std::string_view quoted)
     }
 }
 
-void Criterion::ReadNumber(std::string_view text)
-{
+void Criterion::ReadNumber(std::string_view text, bool quoted)
+try {
     // Far wider than what 15 digits can be off, far narrower than the steps of any table.
     constexpr double kRelative = 1e-9;
     constexpr double kLeast = 1e-20;
@@ -123,6 +124,10 @@ void Criterion::ReadNumber(std::string_view text)
     const double margin = std::abs(number) * kRelative + kLeast;
     mBelow = number - margin;
     mAbove = number + margin;
+} catch (const RuntimeError &) {
+    // Out of range, it can still be the text of a name.
+    if (!quoted)
+        throw;
 }
 
 int Criterion::CompareClose(const Cell &cell) const

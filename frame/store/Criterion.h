@@ -14,7 +14,8 @@ public:
     /// Whether a text that is no number may stand without quotes.
     enum class BareText : std::uint8_t { Refused, Taken };
 
-    /// BadArgument where the text is no criterion, NoSuchColumn, overflow (6) for a number out of a decimal's range.
+    /// BadArgument where the text is no criterion, NoSuchColumn, overflow (6) for a number out of a decimal's range
+    /// that stands without quotes.
     Criterion(std::string_view text, const RowTable &table, BareText bareText);
 
     [[nodiscard]] std::size_t Column() const noexcept { return mColumn; }
@@ -25,7 +26,7 @@ private:
 
     void ReadOperator(std::string_view &rest);
     void ReadQuoted(std::string_view quoted);
-    void ReadNumber(std::string_view text);
+    void ReadNumber(std::string_view text, bool quoted);
     [[nodiscard]] bool Holds(int comparison) const noexcept;
     [[nodiscard]] int CompareClose(const Cell &cell) const;
     [[nodiscard]] int CompareNumber(double number, const Cell &cell) const;

@@ -20,6 +20,14 @@ void Write(const fs::path &file, std::streamoff at, const std::string &bytes)
     stream << bytes;
 }
 
+std::string Bytes(const fs::path &file)
+{
+    if (!fs::is_regular_file(file))
+        return {};
+    std::ifstream stream(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
+
 void MakeAndRun(const fs::path &file, std::string_view sql)
 {
     ASSERT_TRUE(MakeStore(file, StoreContent::Sample));
@@ -100,8 +108,10 @@ TEST(ConnectionOpen, RefusesWhatIsNoSoundStoreAndCanBeOpenedAgain)
         SCOPED_TRACE(bad.name);
         const fs::path file = folder.Path() / bad.name;
         bad.make(file);
+        const std::string before = Bytes(file);
         EXPECT_EQ(ErrorOf([&] { connection.Open(file); }), bad.error);
         EXPECT_FALSE(connection.IsOpen());
+        EXPECT_EQ(Bytes(file), before) << "what is refused is left as it is";
         connection.Open(good);
         EXPECT_EQ(ErrorOf([&] { connection.Open(good); }), WrongState);
         connection.Close();

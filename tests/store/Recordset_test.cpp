@@ -190,6 +190,10 @@ TEST_F(Rows, FindInTextsAndOutOfPlace)
         EXPECT_EQ(find(bad), BadArgument) << bad;
     EXPECT_EQ(find("Nowhere = 3"), NoSuchColumn);
     EXPECT_EQ(find("PortID = 1e40"), ErrorNumber::Overflow);
+    // Between quotes it may be a name.
+    EXPECT_EQ(find("PortName = '1e40'"), 0);
+    EXPECT_TRUE(ports.AtEnd());
+    EXPECT_EQ(find("City = ''"), 0);
     EXPECT_EQ(find("PortID = 1", 0, -1), BadArgument);
     EXPECT_EQ(find("PortID = 1", -1), BadArgument);
     EXPECT_EQ(Here(ports, "PortID"), "2");
