@@ -43,13 +43,25 @@ void frmShipParticulars::CollectTextBoxes()
     }
 }
 
+// A longer text from the store has raised the limit for itself alone.
+void frmShipParticulars::LowerLimit(const TextBox &text)
+{
+    if (text.box->maxLength() == text.limit)
+        return;
+    const int cursor = text.box->cursorPosition();
+    text.box->setMaxLength(std::max(text.limit, static_cast<int>(text.box->text().size())));
+    text.box->setCursorPosition(cursor);
+}
+
 void frmShipParticulars::ConnectEvents()
 {
     // Meant: a name that is typed changes nothing by itself, only a name that is picked does.
     connect(ui->cmbShipName, &QComboBox::activated, this, &frmShipParticulars::cmbShipName_Click);
     connect(ui->dcbPortOfRegistry, &DataCombo::Changed, this, &frmShipParticulars::FieldChanged);
-    for (const TextBox &text : mTextBoxes)
+    for (const TextBox &text : mTextBoxes) {
         connect(text.box, &QLineEdit::textChanged, this, &frmShipParticulars::FieldChanged);
+        connect(text.box, &QLineEdit::textEdited, this, [text] { LowerLimit(text); });
+    }
     ConnectChecks();
 }
 

@@ -61,6 +61,7 @@ private:
     using ColumnValue = std::pair<std::string_view, std::string>;
 
     void CollectTextBoxes();
+    static void LowerLimit(const TextBox &text);
     void ConnectEvents();
 
     void InitShipForm();

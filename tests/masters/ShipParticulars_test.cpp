@@ -448,5 +448,8 @@ TEST_F(ShipParticulars, FiguresFollowTheRegionalSettingsAndKeepAllTheirDigits)
     Run("UPDATE Ship SET OfficialNo = 123456789012");
     Open();
     EXPECT_EQ(Shown("txtOfficialNo"), "123456789012");
+    Fill("txtOfficialNo", "210987654321");
+    EXPECT_EQ(Shown("txtOfficialNo").size(), dynamic_cast<QLineEdit &>(The("txtOfficialNo")).maxLength());
+    EXPECT_LT(Shown("txtOfficialNo").size(), 12);
 }
 } // namespace
