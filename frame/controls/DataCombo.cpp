@@ -116,6 +116,14 @@ void DataCombo::initStyleOption(QStyleOptionComboBox *option) const
         option->currentText = mText;
 }
 
+void DataCombo::showEvent(QShowEvent *event)
+{
+    // A screen reader stops at the box within the box.
+    if (isEditable())
+        lineEdit()->setAccessibleName(accessibleName());
+    QComboBox::showEvent(event);
+}
+
 void DataCombo::keyPressEvent(QKeyEvent *event)
 {
     // Some desktops open a list on Enter, which belongs to the form.

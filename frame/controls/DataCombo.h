@@ -44,6 +44,7 @@ signals:
 protected:
     void initStyleOption(QStyleOptionComboBox *option) const override;
     void keyPressEvent(QKeyEvent *event) override;
+    void showEvent(QShowEvent *event) override;
 
 private:
     [[nodiscard]] bool ContinuesSearch(const QKeyEvent &event);
