@@ -15,12 +15,16 @@ const char *DescriptionOf(std::int32_t number)
         return "Type mismatch";
     case ErrorNumber::ProgramNotFound:
         return "File not found";
+    case ErrorNumber::FileNotWritten:
+        return "Path/File access error";
     case ErrorNumber::NoObject:
         return "Object variable not set";
     case ErrorNumber::InvalidUseOfNull:
         return "Invalid use of Null";
     case ErrorNumber::NoSuchOperation:
         return "Object doesn't support this property or method";
+    case ErrorNumber::PrinterError:
+        return "Printer error";
     default:
         return "Application-defined error";
     }

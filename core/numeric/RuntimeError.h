@@ -12,9 +12,11 @@ inline constexpr std::int32_t Overflow = 6;
 inline constexpr std::int32_t DivisionByZero = 11;
 inline constexpr std::int32_t TypeMismatch = 13;
 inline constexpr std::int32_t ProgramNotFound = 53;
+inline constexpr std::int32_t FileNotWritten = 75;
 inline constexpr std::int32_t NoObject = 91;
 inline constexpr std::int32_t InvalidUseOfNull = 94;
 inline constexpr std::int32_t NoSuchOperation = 438;
+inline constexpr std::int32_t PrinterError = 482;
 /// The store cannot be opened, or it refused a duplicate survey or draft: hexadecimal 80004005.
 inline constexpr std::int32_t StoreRefusal = static_cast<std::int32_t>(0x80004005U);
 } // namespace ErrorNumber

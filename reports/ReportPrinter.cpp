@@ -1,0 +1,51 @@
+#include "reports/ReportPrinter.h"
+
+#include "core/numeric/RuntimeError.h"
+#include "reports/Report.h"
+#include "reports/ReportPainter.h"
+
+#include <QPainter>
+#include <QPrinter>
+#include <QPrinterInfo>
+
+#include <utility>
+
+namespace
+{
+void PrintOnDefaultPrinter(const Report &report)
+{
+    const QPrinterInfo machine = QPrinterInfo::defaultPrinter();
+    if (machine.isNull())
+        throw RuntimeError(ErrorNumber::PrinterError);
+    QPrinter printer(machine, QPrinter::HighResolution);
+    printer.setFullPage(true);
+    printer.setDocName(QString::fromUtf8(report.Layout().title.data()));
+    QPainter painter;
+    if (!painter.begin(&printer))
+        throw RuntimeError(ErrorNumber::PrinterError);
+    const QSizeF page = printer.pageLayout().fullRectPixels(printer.resolution()).size();
+    painter.setTransform(BlockOnPage(report, page, printer.resolution()));
+    PaintReport(report, painter);
+    if (!painter.end() || printer.printerState() == QPrinter::Error)
+        throw RuntimeError(ErrorNumber::PrinterError);
+}
+
+PrintPort &Port()
+{
+    static PrintPort port;
+    return port;
+}
+} // namespace
+
+void PrintReport(const Report &report)
+{
+    if (Port())
+        Port()(report);
+    else
+        PrintOnDefaultPrinter(report);
+}
+
+PrintPort SetPrintPort(PrintPort port)
+{
+    return std::exchange(Port(), std::move(port));
+}
