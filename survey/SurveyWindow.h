@@ -15,10 +15,12 @@
 #include <string>
 
 class FloatingEditor;
+class Report;
 class QCheckBox;
 class QComboBox;
 class QLabel;
 class QLineEdit;
+struct ReportedSurvey;
 
 namespace Ui
 {
@@ -126,6 +128,12 @@ protected:
     [[nodiscard]] virtual std::string WrongFigures() const;
     /// Closing copies the screen into the active draft before it looks for changes.
     virtual void CollectBeforeClosing();
+    /// The window's report with the survey's figures in it.
+    [[nodiscard]] virtual Report &FilledReport(const ReportedSurvey &survey) = 0;
+    /// Box caption of a failed print or preview.
+    [[nodiscard]] virtual std::string PrintFailureCaption() const = 0;
+    /// There is something to put into the report's columns.
+    [[nodiscard]] virtual bool AnyToPrint() const;
     /// Value of a ship as the drafts take it.
     [[nodiscard]] virtual Value ShipForDrafts(const Value &bound) const { return bound; }
 
@@ -183,6 +191,8 @@ protected:
     /// Checks and rounds a number entry by its rule; tells what is wrong, holds the focus and blanks the field.
     /// True where the field holds an accepted number.
     [[nodiscard]] static bool TakeNumber(QLineEdit &field, const NumberRule &rule, bool &cancel);
+
+    [[nodiscard]] ReportedSurvey Reported();
 
     // Deductions
     void ShowDeductions(Recordset &deductions);

@@ -212,11 +212,6 @@ void SurveyWindow::DeleteFinal()
     MsgBox("One record has been deleted successfully.", MsgIcon::Information);
 }
 
-void SurveyWindow::RPrint(bool)
-{
-    TellExclamation("The survey report is not part of this version yet.");
-}
-
 void SurveyWindow::CollectBeforeClosing()
 {
     CollectDraft(ActiveStage());

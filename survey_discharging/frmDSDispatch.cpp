@@ -2,6 +2,8 @@
 
 #include "frame/controls/Colours.h"
 #include "frame/controls/ScreenText.h"
+#include "reports/Report.h"
+#include "reports/ReportFilling.h"
 #include "survey/SurveyControls.h"
 #include "ui_DischargingResults.h"
 
@@ -262,4 +264,15 @@ bool frmDSDispatch::StartsNewDaily(MsgAnswer answer)
 std::string frmDSDispatch::SavedConstant(bool isNewRow) const
 {
     return isNewRow || IsZero(mConstant) ? Value(kNoConstant).SqlText() : mConstant.SqlText();
+}
+
+bool frmDSDispatch::AnyToPrint() const
+{
+    return mInitDraft.IsThere() || mDailyDraft.IsThere() || mFinalDraft.IsThere();
+}
+
+Report &frmDSDispatch::FilledReport(const ReportedSurvey &survey)
+{
+    FillDischargePortReport(drptDSDispatch(), survey);
+    return drptDSDispatch();
 }

@@ -52,6 +52,10 @@ protected:
     [[nodiscard]] std::string SavedConstant(bool isNewRow) const override;
     /// What was typed since the last copy of the screen does not count as a change here.
     void CollectBeforeClosing() override { }
+    [[nodiscard]] Report &FilledReport(const ReportedSurvey &survey) override;
+    [[nodiscard]] std::string PrintFailureCaption() const override { return "Keelmark-10066"; }
+    /// A lone Daily draft is enough here; the Initial column then has no figures.
+    [[nodiscard]] bool AnyToPrint() const override;
 
 private:
     void ShowInitialResults(const Value &netDisplacement);

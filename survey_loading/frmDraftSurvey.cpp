@@ -1,6 +1,8 @@
 #include "survey_loading/frmDraftSurvey.h"
 
 #include "frame/controls/ScreenText.h"
+#include "reports/Report.h"
+#include "reports/ReportFilling.h"
 #include "survey/SurveyControls.h"
 #include "ui_LoadingResults.h"
 
@@ -228,4 +230,10 @@ void frmDraftSurvey::cmbDailyDateTime_Click()
     const Value sinceThen = DecimalOf(onboard) - DecimalOf(mResults->txtPrevLoadedCargo->text());
     ShowValue(*mResults->txtLastLoadedCargo, sinceThen);
     SetRed(*mResults->txtLastLoadedCargo, IsNegative(sinceThen));
+}
+
+Report &frmDraftSurvey::FilledReport(const ReportedSurvey &survey)
+{
+    FillLoadportReport(drptDraftSurvey(), survey);
+    return drptDraftSurvey();
 }

@@ -29,6 +29,8 @@ protected:
     void ResetFrames() override;
     [[nodiscard]] std::string SavedConstant(bool isNewRow) const override;
     [[nodiscard]] NumberRule RuleOf(const QString &field) const override;
+    [[nodiscard]] Report &FilledReport(const ReportedSurvey &survey) override;
+    [[nodiscard]] std::string PrintFailureCaption() const override { return "Keelmark-10067"; }
 
 private:
     void ShowInitialResults(clsDraft &draft);

@@ -1,6 +1,8 @@
+#include "frame/controls/Colours.h"
 #include "survey_discharging/frmDSDispatch.h"
 #include "tests/survey/SurveyDesk.h"
 
+#include <QLineEdit>
 #include <QTest>
 
 namespace
@@ -133,6 +135,42 @@ TEST_F(DischargingByKeyboard, TheBillOfLadingHasItsBounds)
         EXPECT_EQ(Text("txtAssumedConstant"), one.assumedConstant) << one.typed;
         EXPECT_EQ(Focus() == "txtBLQty", one.refusal != nullptr) << one.typed;
     }
+}
+
+TEST_F(DischargingByKeyboard, FiguresThatCannotBeAreRedAndTold)
+{
+    AddShip();
+    Open();
+    EnterWorked();
+    SaveWell();
+    ClickTab("Daily");
+    FillMarks(kDailyMarks);
+    ExpectTold("Invalid value for Total Cargo Discharged.\n\nPlease check your input values.", [this] { Calculate(); });
+    EXPECT_EQ(Text("txtTotCargoDischarged"), "-1869.62026");
+    EXPECT_TRUE(IsRed(The<QLineEdit>("txtTotCargoDischarged")) && The<Grid>("fgrdFinalResult").IsRed(11, 1));
+
+    // Without a Bill of Lading all that was discharged is too much.
+    FillMarks(kWorkedMarks);
+    FillCell(0, "500");
+    ExpectTold(
+        "Current value for Total cargo onboard is invalid.\n\nPlease check that B/L quantity is not zero and that "
+        "value of Total cargo discharged is not greater than B/L quantity.",
+        [this] { Calculate(); });
+    EXPECT_EQ(Texts({"txtTotCargoDischarged", "txtTolCargoOnboard"}), "29.5 -29.5");
+    EXPECT_TRUE(IsRed(The<QLineEdit>("txtTolCargoOnboard")));
+    EXPECT_FALSE(IsRed(The<QLineEdit>("txtTotCargoDischarged")) || The<Grid>("fgrdFinalResult").IsRed(11, 1));
+    SaveWell();
+
+    ClickTab("Final");
+    FillMarks(kWorkedMarks);
+    FillCell(0, "1000");
+    ExpectTold("Current value for Constant is invalid.\n\nPlease check your input values.", [this] { Calculate(); });
+    EXPECT_EQ(Texts({"txtFinTotCargoDis", "txtConstant"}), "529.5 -187.81487");
+    EXPECT_TRUE(IsRed(The<QLineEdit>("txtConstant")));
+    FillMarks(kDailyMarks);
+    ExpectTold("Current value for Total cargo discharged is invalid.\n\nPlease check your input values.",
+               [this] { Calculate(); });
+    EXPECT_TRUE(IsRed(The<QLineEdit>("txtFinTotCargoDis")) && !IsRed(The<QLineEdit>("txtConstant")));
 }
 
 TEST_F(DischargingByKeyboard, AWholeSurveyIsEnteredAndSaved)

@@ -251,4 +251,32 @@ TEST_F(Save, DeletingAsksAndTakesWhatItNames)
     PressClose();
     EXPECT_FALSE(IsOpen());
 }
+
+TEST_F(Save, AFinalDraftOfAVeryLargeCargoIsSavedFromTheInitialTab)
+{
+    AddShip();
+    Run("UPDATE HydrostaticDataTable SET Displacement = Displacement * 10");
+    Run("UPDATE Ship SET LightShip = 90000");
+    Open();
+    FillHeader();
+    FillMarks(kWorkedMarks);
+    FillCell(0, "99999");
+    FillCell(1, "38000");
+    Calculate();
+    SaveWell();
+    ClickTab("Final");
+    FillMarks(kDailyMarks);
+    const char *const refusal = "Invalid constant value.\n\nPlease check your input values.";
+    ExpectTold(refusal, [this] { Calculate(); });
+    const std::string cargo = Text("txtTotCargoLoaded");
+    ExpectTold(refusal, [this] { PressSave(); });
+    ClickTab("Initial");
+    Calculate();
+    SaveWell();
+    ClickTab("Final");
+    EXPECT_EQ(Text("txtTotCargoLoaded"), cargo);
+    EXPECT_GT(std::stod(cargo), 100000);
+    PressClose();
+    EXPECT_FALSE(IsOpen());
+}
 } // namespace

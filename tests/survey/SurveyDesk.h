@@ -45,6 +45,7 @@ protected:
     void PressSave() { PressKey(Frame(), Qt::Key_S, Qt::ControlModifier); }
     void PressNew() { PressKey(Frame(), Qt::Key_N, Qt::ControlModifier); }
     void PressDelete() { Click(*Frame().findChild<QWidget *>("tbrMDI(7)", Qt::FindChildrenRecursively)); }
+    void PressPreview() { Click(*Frame().findChild<QWidget *>("tbrMDI(5)", Qt::FindChildrenRecursively)); }
     void Press(Qt::Key key) { PressKey(Frame(), key); }
 
     [[nodiscard]] static frmMDI &Frame() { return frmMDI::Global(); }

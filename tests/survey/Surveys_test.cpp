@@ -1,13 +1,16 @@
 #include "frame/controls/Colours.h"
+#include "reports/Report.h"
+#include "reports/ReportPdf.h"
 #include "survey_discharging/frmDSDispatch.h"
 #include "survey_loading/frmDraftSurvey.h"
 #include "tests/survey/SurveyDesk.h"
 
+#include <gmock/gmock.h>
+
 #include <QCheckBox>
 #include <QJsonArray>
 #include <QLineEdit>
-
-#include <iostream>
+#include <QProcess>
 
 namespace
 {
@@ -52,6 +55,18 @@ QJsonObject Case(const std::string &id)
     return {};
 }
 
+/// What a reader finds in the report's PDF, label by label.
+std::string TextOnPaper(const Report &report)
+{
+    const TestFolder folder;
+    const QString file = QString::fromStdString((folder.Path() / "report.pdf").string());
+    SavePdf(report, file);
+    QProcess reader;
+    reader.start("pdftotext", {"-raw", file, "-"});
+    EXPECT_TRUE(reader.waitForFinished());
+    return QString::fromUtf8(reader.readAllStandardOutput()).simplified().toStdString();
+}
+
 const Workspace *WorkspaceOf(const std::string &id)
 {
     for (const Workspace &workspace : kWorkspaces)
@@ -84,6 +99,8 @@ private:
     void CompareTexts(const QJsonObject &texts) const;
     void CompareDeductions(const QJsonObject &quantities) const;
     void CompareShown(const QJsonObject &show) const;
+    /// What the previewed report shows on the screen and on paper; closes the preview.
+    static void CompareLabels(const QJsonObject &labels);
     void CompareResult(const QJsonArray &rows) const;
     /// Rows of cells from a first one on; a list of single texts is one column.
     void CompareCells(const QString &grid, int row, int column, const QJsonArray &rows) const;
@@ -109,6 +126,7 @@ void PlayedSurveys::Play(const QJsonObject &survey)
         CompareTexts(expect["fields"].toObject());
         CompareDeductions(expect["deductions"].toObject());
         CompareShown(expect["show"].toObject());
+        CompareLabels(expect["labels"].toObject());
         if (expect.contains("done")) {
             EXPECT_EQ(!Text("txtTrueMeanDraft").empty(), expect["done"].toBool());
         }
@@ -152,7 +170,7 @@ void PlayedSurveys::Do(const QJsonObject &step)
     else if (act == "reopen")
         PressClose(), Open();
     else if (act == "report")
-        std::cout << "[ NOT PLAYED ] there is no report yet\n";
+        PressPreview();
     else
         ADD_FAILURE() << "no such act";
 }
@@ -188,6 +206,26 @@ void PlayedSurveys::CompareDeductions(const QJsonObject &quantities) const
     for (auto quantity = quantities.begin(); quantity != quantities.end(); ++quantity)
         EXPECT_EQ(Cell("fgrdDeduction", RowOf(quantity.key()), 1), Words(quantity.value()))
             << mItems[quantity.key()].toStdString();
+}
+
+void PlayedSurveys::CompareLabels(const QJsonObject &labels)
+{
+    if (labels.isEmpty())
+        return;
+    QWidget *preview = Frame().findChild<QWidget *>("ReportPreview");
+    ASSERT_TRUE(preview);
+    const bool loading = preview->windowTitle() == "Loadport Draft Survey Report";
+    const Report &report = loading ? drptDraftSurvey() : drptDSDispatch();
+    const std::string page = TextOnPaper(report);
+    for (auto label = labels.begin(); label != labels.end(); ++label) {
+        EXPECT_EQ(report.Caption(label.key().toStdString()), Words(label.value())) << label.key().toStdString();
+        EXPECT_THAT(page, testing::HasSubstr(Words(label.value())));
+    }
+    PressKey(*preview, Qt::Key_Escape);
+    Settle();
+    ShowActive(Frame());
+    EXPECT_FALSE(Frame().findChild<QWidget *>("ReportPreview"));
+    EXPECT_EQ(report.Caption("lblVoyageID"), "");
 }
 
 void PlayedSurveys::CompareShown(const QJsonObject &show) const
