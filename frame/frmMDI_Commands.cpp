@@ -1,6 +1,7 @@
 #include "frame/VendorAddresses.h"
 #include "frame/frmAbout.h"
 #include "frame/frmMDI.h"
+#include "frame/frmOpen.h"
 #include "frame/mdlMain.h"
 #include "frame/platform/Shell.h"
 
@@ -50,6 +51,9 @@ void frmMDI::mnuFile_Click(int index)
     case 0:
         if (AnyWindowOpen())
             ActiveForm().RNew();
+        break;
+    case 2:
+        frmOpen(this).exec();
         break;
     case 4:
         if (AnyWindowOpen())

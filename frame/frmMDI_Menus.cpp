@@ -20,15 +20,9 @@ struct Item {
 };
 
 constexpr Item kFile[] = {
-    {0, "&New", "Ctrl+N", false},
-    {2, "&Open", "Ctrl+O", false},
-    {4, "&Save", "Ctrl+S", false},
-    {6, "&Close", "Ctrl+F4", false},
-    {10, kSeparator},
-    {12, "Print Pre&view", "", false},
-    {14, "&Print", "Ctrl+P", false},
-    {16, kSeparator},
-    {18, "E&xit"},
+    {0, "&New", "Ctrl+N", false},    {2, "&Open", "Ctrl+O"}, {4, "&Save", "Ctrl+S", false},
+    {6, "&Close", "Ctrl+F4", false}, {10, kSeparator},       {12, "Print Pre&view", "", false},
+    {14, "&Print", "Ctrl+P", false}, {16, kSeparator},       {18, "E&xit"},
 };
 constexpr Item kShipData[] = {{5, "&Ship Particulars"}, {10, "&Hydrostatic Data Table"}, {20, "&Port"}};
 constexpr Item kDraftSurvey[] = {{5, "&Loading"}, {10, "Disch&arging"}};
