@@ -73,16 +73,30 @@ bool StartRegisteredCalculator()
     return false;
 }
 
-bool StartRegisteredTextEditor()
+// The file name of the desktop entry that opens files of a kind; empty where there is none.
+QString RegisteredFor(const char *mimeType)
 {
     QProcess query;
-    query.start("xdg-mime", {"query", "default", "text/plain"});
+    query.start("xdg-mime", {"query", "default", mimeType});
     constexpr int patience = 3000; // milliseconds
-    if (!query.waitForFinished(patience))
-        return false;
-    const QString name = QString::fromUtf8(query.readAllStandardOutput()).trimmed();
+    return query.waitForFinished(patience) ? QString::fromUtf8(query.readAllStandardOutput()).trimmed() : QString();
+}
+
+bool StartRegisteredTextEditor()
+{
+    const QString name = RegisteredFor("text/plain");
     return !name.isEmpty()
         && Start(ReadEntry(QStandardPaths::locate(QStandardPaths::ApplicationsLocation, name)).command);
+}
+
+// Where nothing is registered the desktop's opener starts all the same, and fails unseen.
+bool OpensCompiledHelp()
+{
+#ifdef Q_OS_WIN
+    return true;
+#else
+    return !RegisteredFor("application/vnd.ms-htmlhelp").isEmpty() || !RegisteredFor("application/x-chm").isEmpty();
+#endif
 }
 
 class Desktop : public Shell
@@ -95,7 +109,7 @@ public:
 
     void ShowHelp(const QString &file) override
     {
-        if (QFile::exists(file) && QDesktopServices::openUrl(QUrl::fromLocalFile(file)))
+        if (QFile::exists(file) && OpensCompiledHelp() && QDesktopServices::openUrl(QUrl::fromLocalFile(file)))
             return;
         const QFileInfo pages(QFileInfo(file).dir(), "help/index.html");
         if (pages.exists())
