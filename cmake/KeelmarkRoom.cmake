@@ -8,8 +8,12 @@ endif()
 if(KEELMARK_SANITIZE)
     # The sanitizers' own code makes g++ warn of uninitialized values in the standard library where there are none.
     target_compile_options(keelmark_flags INTERFACE
-        -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer -Wno-maybe-uninitialized)
+        -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer
+        $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
     target_link_options(keelmark_flags INTERFACE -fsanitize=address,undefined)
+endif()
+if(KEELMARK_FUZZ)
+    target_compile_options(keelmark_flags INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
 # keelmark_room(NAME SOURCES ... KNOWS ...): one room of the house as a static library. KNOWS names the rooms and
