@@ -64,7 +64,7 @@ frmOpen::frmOpen(QWidget *parent)
     connect(mUi->tvOpen, &QTreeWidget::itemClicked, this, &frmOpen::tvOpen_NodeClick);
     connect(mUi->lvOpen, &QListWidget::itemSelectionChanged, this, &frmOpen::lvOpen_ItemClick);
     connect(mUi->lvOpen, &QListWidget::itemClicked, this, &frmOpen::lvOpen_ItemClick);
-    connect(mUi->lvOpen, &QListWidget::itemDoubleClicked, this, &frmOpen::cmdOpen_Click);
+    mUi->lvOpen->viewport()->installEventFilter(this);
     connect(mUi->txtFormToOpen, &QLineEdit::textChanged, this,
             [this](const QString &text) { mUi->cmdOpen->setEnabled(!text.trimmed().isEmpty()); });
     connect(mUi->cmdOpen, &QPushButton::clicked, this, &frmOpen::cmdOpen_Click);
@@ -99,6 +99,15 @@ void frmOpen::done(int result)
     Form_Unload();
     Forms::Remove(this);
     QDialog::done(result);
+}
+
+bool frmOpen::eventFilter(QObject *watched, QEvent *event)
+{
+    // Beside the items too: what the box names is opened.
+    if (watched != mUi->lvOpen->viewport() || event->type() != QEvent::MouseButtonDblClick)
+        return QDialog::eventFilter(watched, event);
+    cmdOpen_Click();
+    return true;
 }
 
 void frmOpen::tvOpen_NodeClick()

@@ -21,6 +21,9 @@ public:
     /// Every way out of the dialog comes by here.
     void done(int result) override;
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     void Form_Load();
     static void Form_Unload();

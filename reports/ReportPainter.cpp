@@ -91,6 +91,15 @@ void PaintLines(const ReportLabel &label, const QString &text, QPainter &painter
     painter.restore();
 }
 
+QString OnOneLine(QString text)
+{
+    for (QChar &letter : text) {
+        if (letter.isSpace())
+            letter = QLatin1Char(' ');
+    }
+    return text;
+}
+
 void PaintLabel(const ReportLabel &label, const std::string &caption, QPainter &painter)
 {
     if (caption.empty())
@@ -98,7 +107,7 @@ void PaintLabel(const ReportLabel &label, const std::string &caption, QPainter &
     QString text = QString::fromStdString(caption);
     const bool isOneLine = label.height < 2 * label.points * kTwipsPerPoint;
     if (isOneLine)
-        PaintLine(label, text.simplified(), painter);
+        PaintLine(label, OnOneLine(text), painter);
     else
         PaintLines(label, text.replace(QLatin1Char('\n'), QChar::LineSeparator), painter);
 }

@@ -48,6 +48,15 @@ QString AskForPath(QWidget *parent, const QString &proposed)
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 
+using Previews = std::map<const Report *, QPointer<ReportPreview>>;
+
+/// The preview of each report that is not closed.
+Previews &OpenPreviews()
+{
+    static Previews previews;
+    return previews;
+}
+
 QString Percent(double zoom)
 {
     return QString::number(qRound(zoom * 100)) + QStringLiteral(" %");
@@ -231,20 +240,27 @@ bool ReportPreview::eventFilter(QObject *watched, QEvent *event)
 void ReportPreview::closeEvent(QCloseEvent *event)
 {
     mReport.Unload();
+    OpenPreviews().erase(&mReport);
     QWidget::closeEvent(event);
 }
 
 void ShowReport(Report &report, QWidget *before)
 {
-    static std::map<const Report *, QPointer<ReportPreview>> shown;
-    QPointer<ReportPreview> &preview = shown[&report];
-    if (!preview || !preview->isVisible())
+    QPointer<ReportPreview> &preview = OpenPreviews()[&report];
+    if (!preview)
         preview = new ReportPreview(report, before);
+    preview->setWindowState(preview->windowState() & ~Qt::WindowMinimized);
     preview->show();
     preview->raise();
     preview->activateWindow();
     preview->update();
     preview->findChild<ReportPage *>()->update();
+}
+
+void HideReport(const Report &report)
+{
+    if (ReportPreview *preview = OpenPreviews()[&report])
+        preview->hide();
 }
 
 SavePathPort SetSavePathPort(SavePathPort port)

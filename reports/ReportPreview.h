@@ -55,6 +55,8 @@ private:
 /// Shows the report as it is filled, in a window before the one given; an open preview of it comes to the front and
 /// shows it anew.
 void ShowReport(Report &report, QWidget *before);
+/// Takes an open preview of the report from the screen. The report stays as it is filled.
+void HideReport(const Report &report);
 
 /// Asks for the file to save to, starting from a proposed path; empty where the user thinks better of it. A test sets
 /// its own; an empty one is the machine's dialog, and the port that was set before is handed back.

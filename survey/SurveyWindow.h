@@ -128,8 +128,9 @@ protected:
     [[nodiscard]] virtual std::string WrongFigures() const;
     /// Closing copies the screen into the active draft before it looks for changes.
     virtual void CollectBeforeClosing();
-    /// The window's report with the survey's figures in it.
-    [[nodiscard]] virtual Report &FilledReport(const ReportedSurvey &survey) = 0;
+    [[nodiscard]] virtual Report &OwnReport() const = 0;
+    /// Puts the survey's figures into the window's report.
+    virtual void FillReport(const ReportedSurvey &survey) const = 0;
     /// Box caption of a failed print or preview.
     [[nodiscard]] virtual std::string PrintFailureCaption() const = 0;
     /// There is something to put into the report's columns.

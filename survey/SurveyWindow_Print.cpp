@@ -99,11 +99,15 @@ try {
         TellExclamation(blnShowPreview ? "No valid draft for preview." : "No valid draft for printing.");
         return;
     }
-    Report &report = FilledReport(Reported());
-    if (blnShowPreview)
-        ShowReport(report, window());
-    else
-        PrintReport(report);
+    FillReport(Reported());
+    if (blnShowPreview) {
+        ShowReport(OwnReport(), window());
+        return;
+    }
+    HideReport(OwnReport());
+    PrintReport(OwnReport());
 } catch (const RuntimeError &) {
+    // Half filled, it may hold figures of two surveys.
+    HideReport(OwnReport());
     MsgBox(kPrintFailure, MsgIcon::Critical, PrintFailureCaption());
 }

@@ -21,6 +21,11 @@ Value Figure(const Value &value)
     return value.IsAbsent() ? Value(std::int16_t {0}) : value;
 }
 
+bool IsCloseKey(const QKeyEvent &key)
+{
+    return key.key() == Qt::Key_F4 && key.modifiers().testFlag(Qt::ControlModifier);
+}
+
 bool IsZero(const Value &value)
 {
     return value.IsAbsent() || value == Value(std::int16_t {0});
@@ -41,11 +46,20 @@ frmDSDispatch::frmDSDispatch(QWidget *parent)
 
 frmDSDispatch::~frmDSDispatch() = default;
 
+bool frmDSDispatch::event(QEvent *event)
+{
+    if (event->type() != QEvent::ShortcutOverride || !IsCloseKey(*static_cast<QKeyEvent *>(event)))
+        return SurveyWindow::event(event);
+    // The key comes to the window and not to the menu's Close, whose errors end the program.
+    event->accept();
+    return true;
+}
+
 bool frmDSDispatch::Form_KeyPress(QKeyEvent &event)
 {
-    if (event.key() != Qt::Key_F4 || !event.modifiers().testFlag(Qt::ControlModifier))
+    if (!IsCloseKey(event))
         return SurveyWindow::Form_KeyPress(event);
-    static_cast<void>(Unload());
+    UnloadIgnoringErrors();
     return true;
 }
 
@@ -271,8 +285,12 @@ bool frmDSDispatch::AnyToPrint() const
     return mInitDraft.IsThere() || mDailyDraft.IsThere() || mFinalDraft.IsThere();
 }
 
-Report &frmDSDispatch::FilledReport(const ReportedSurvey &survey)
+Report &frmDSDispatch::OwnReport() const
+{
+    return drptDSDispatch();
+}
+
+void frmDSDispatch::FillReport(const ReportedSurvey &survey) const
 {
     FillDischargePortReport(drptDSDispatch(), survey);
-    return drptDSDispatch();
 }

@@ -22,6 +22,7 @@ public:
     bool Form_KeyPress(QKeyEvent &event) override;
 
 protected:
+    bool event(QEvent *event) override;
     [[nodiscard]] std::string IsLoading() const override { return "False"; }
     [[nodiscard]] std::string SettingsSection() const override { return "Draft Survey Discharging"; }
     [[nodiscard]] std::string CloseFailureCaption() const override { return "Keelmark-20100"; }
@@ -52,7 +53,8 @@ protected:
     [[nodiscard]] std::string SavedConstant(bool isNewRow) const override;
     /// What was typed since the last copy of the screen does not count as a change here.
     void CollectBeforeClosing() override { }
-    [[nodiscard]] Report &FilledReport(const ReportedSurvey &survey) override;
+    [[nodiscard]] Report &OwnReport() const override;
+    void FillReport(const ReportedSurvey &survey) const override;
     [[nodiscard]] std::string PrintFailureCaption() const override { return "Keelmark-10066"; }
     /// A lone Daily draft is enough here; the Initial column then has no figures.
     [[nodiscard]] bool AnyToPrint() const override;

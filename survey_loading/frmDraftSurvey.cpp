@@ -232,8 +232,12 @@ void frmDraftSurvey::cmbDailyDateTime_Click()
     SetRed(*mResults->txtLastLoadedCargo, IsNegative(sinceThen));
 }
 
-Report &frmDraftSurvey::FilledReport(const ReportedSurvey &survey)
+Report &frmDraftSurvey::OwnReport() const
+{
+    return drptDraftSurvey();
+}
+
+void frmDraftSurvey::FillReport(const ReportedSurvey &survey) const
 {
     FillLoadportReport(drptDraftSurvey(), survey);
-    return drptDraftSurvey();
 }

@@ -29,7 +29,8 @@ protected:
     void ResetFrames() override;
     [[nodiscard]] std::string SavedConstant(bool isNewRow) const override;
     [[nodiscard]] NumberRule RuleOf(const QString &field) const override;
-    [[nodiscard]] Report &FilledReport(const ReportedSurvey &survey) override;
+    [[nodiscard]] Report &OwnReport() const override;
+    void FillReport(const ReportedSurvey &survey) const override;
     [[nodiscard]] std::string PrintFailureCaption() const override { return "Keelmark-10067"; }
 
 private:

@@ -71,11 +71,23 @@ bool Form::Unload()
     return around ? around->close() : close();
 }
 
+bool Form::UnloadIgnoringErrors()
+{
+    const QScopedValueRollback<bool> ignoring(mIgnoresErrors, true);
+    return Unload();
+}
+
 void Form::closeEvent(QCloseEvent *event)
 {
     bool cancel = false;
-    if (!mUnloaded)
-        Form_Unload(cancel);
+    try {
+        if (!mUnloaded)
+            Form_Unload(cancel);
+    } catch (const RuntimeError &) {
+        if (!mIgnoresErrors)
+            throw;
+        cancel = true;
+    }
     if (cancel) {
         event->ignore();
         return;

@@ -62,6 +62,8 @@ public:
 
     /// Closes the window with its checks and questions. True where it went.
     bool Unload();
+    /// The same, but a run-time error on the way leaves the window open and is told to nobody.
+    bool UnloadIgnoringErrors();
 
     /// The mask last sent by SendMask; empty before the first.
     [[nodiscard]] const std::string &ButtonMask() const { return mButtonMask; }
@@ -102,4 +104,5 @@ private:
     QHash<QWidget *, FocusCheck> mChecks;
     bool mChecking = false;
     bool mUnloaded = false;
+    bool mIgnoresErrors = false;
 };

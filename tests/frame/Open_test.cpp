@@ -137,9 +137,18 @@ TEST_F(OpenDialog, OpensWhatIsChosenByMouseAndByKeyboard)
     SetChildFactory(ChildWindow::DeductionMaster, {});
 
     InDialog([this] {
+        QWidget *list = Part<QListWidget>("lvOpen").viewport();
+        const QPoint beside(list->width() - 2, list->height() - 2);
+        QTest::mouseDClick(list, Qt::LeftButton, {}, beside);
+        ClickItem(2);
+        QTest::mouseDClick(list, Qt::LeftButton, {}, beside);
+    });
+    EXPECT_EQ(gOpenChildCount, 5);
+
+    InDialog([this] {
         ClickItem(0);
         PressKey(*mDialog, Qt::Key_Escape);
     });
-    EXPECT_EQ(gOpenChildCount, 4);
+    EXPECT_EQ(gOpenChildCount, 5);
 }
 } // namespace

@@ -4,6 +4,8 @@
 
 #include <gmock/gmock.h>
 
+#include <QFontMetricsF>
+
 #include <set>
 
 namespace
@@ -89,6 +91,24 @@ TEST(ReportLayout, TheDesignsDifferInPlacesAndTexts)
     }
     EXPECT_EQ(Label(LoadportLayout(), "lblReportTitle").points, 12);
     EXPECT_EQ(Label(DischargePortLayout(), "lblReportTitle").points, 11.25);
+}
+
+TEST(ReportLayout, CaptionsHaveRoomForTheirText)
+{
+    // Their widths are given; the text is set a trifle smaller.
+    const std::set<std::string> narrow {"Disp. Corrected for Density", "Displacement in Sea Water"};
+    for (const ReportLayout *layout : {&LoadportLayout(), &DischargePortLayout()}) {
+        for (const ReportLabel &label : layout->labels) {
+            QFont font(QStringLiteral("Liberation Sans"));
+            font.setBold(label.bold);
+            font.setPixelSize(qRound(label.points * 20));
+            font.setHintingPreference(QFont::PreferNoHinting);
+            const double width = QFontMetricsF(font).horizontalAdvance(QString::fromStdString(label.text));
+            if (!narrow.contains(label.text)) {
+                EXPECT_LE(width, label.width) << layout->title << ": " << label.text;
+            }
+        }
+    }
 }
 
 TEST(Report, KeepsWhatIsFilledUntilItIsUnloaded)

@@ -173,6 +173,22 @@ TEST_F(DischargingByKeyboard, FiguresThatCannotBeAreRedAndTold)
     EXPECT_TRUE(IsRed(The<QLineEdit>("txtFinTotCargoDis")) && !IsRed(The<QLineEdit>("txtConstant")));
 }
 
+TEST_F(DischargingByKeyboard, TheCloseKeyIgnoresErrorsAndKeepsTheWindow)
+{
+    AddShip();
+    Open();
+    EnterWorked();
+    Fill("txtAftPort", "x");
+    PressClose();
+    EXPECT_EQ(Text("txtAftPort"), "x");
+    EXPECT_EQ(Stored(), "");
+    Fill("txtAftPort", "8.61");
+    Prompt(kClosePrompt, MsgAnswer::Yes);
+    PressClose();
+    EXPECT_FALSE(IsOpen());
+    EXPECT_NE(Stored(), "");
+}
+
 TEST_F(DischargingByKeyboard, AWholeSurveyIsEnteredAndSaved)
 {
     AddShip();

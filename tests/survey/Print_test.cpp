@@ -29,6 +29,7 @@ protected:
         drptDraftSurvey().Unload();
         drptDSDispatch().Unload();
     }
+    [[nodiscard]] static QWidget *Preview() { return Frame().findChild<QWidget *>("ReportPreview"); }
     void PressPrint() { PressKey(Frame(), Qt::Key_P, Qt::ControlModifier); }
     // What labels of the report show, with a bar between.
     [[nodiscard]] static std::string Labels(const Report &report, const std::vector<const char *> &names)
@@ -70,7 +71,13 @@ TEST_F(Printing, SendsInitialAndFinalToThePrinter)
     // A filling leaves alone what it does not fill; the next survey's report must not show it, so closing unloads it.
     EXPECT_EQ(drptDraftSurvey().Caption("lblFinMisc1"), "2.5 MT");
     PressPreview();
-    PressKey(*Frame().findChild<QWidget *>("ReportPreview"), Qt::Key_Escape);
+    // An open preview would show an earlier survey than its report holds.
+    ShowActive(Frame());
+    PressPrint();
+    EXPECT_FALSE(Preview()->isVisible());
+    PressPreview();
+    EXPECT_TRUE(Preview()->isVisible());
+    PressKey(*Preview(), Qt::Key_Escape);
     Settle();
     EXPECT_EQ(drptDraftSurvey().Caption("lblFinMisc1"), "0 MT");
 }
