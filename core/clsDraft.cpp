@@ -52,6 +52,7 @@ void clsDraft::SetNumber(Value &field, const Value &value)
         return;
     field = Val2Dec(value);
     mToSave = true;
+    mChangedSinceRun = true;
 }
 
 void clsDraft::SetText(std::string &field, std::string_view text)
@@ -68,11 +69,13 @@ void clsDraft::ListCorrected(bool corrected)
         return;
     mListCorrected = corrected;
     mToSave = true;
+    mChangedSinceRun = true;
 }
 
 void clsDraft::ShipID(const Value &shipID)
 {
-    mShipID = shipID.ToLong();
+    const std::int32_t before = std::exchange(mShipID, shipID.ToLong());
+    mChangedSinceRun = mChangedSinceRun || mShipID != before;
     // SetShip has told the user of a failure.
     static_cast<void>(mShip.SetShip(mShipID));
 }
@@ -92,14 +95,29 @@ void clsDraft::OpenDeductions(std::int32_t draftID)
                       LockType::BatchOptimistic);
 }
 
+void clsDraft::AddQuantities(Value &total)
+{
+    if (mDeductions->RecordCount() < 1)
+        return;
+    for (mDeductions->MoveFirst(); !mDeductions->AtEnd(); mDeductions->MoveNext())
+        total = total + mDeductions->Fields("Quantity");
+}
+
+bool clsDraft::IsOutdated()
+{
+    if (NetDisplacement().IsAbsent())
+        return false;
+    Value deducted = std::int16_t {0};
+    if (mDeductions->State() == 1)
+        AddQuantities(deducted);
+    return mChangedSinceRun || !(deducted == mFinalResult[8]);
+}
+
 Value clsDraft::GetTotDeductibles()
 {
     try {
         mTotDeductibles = std::int16_t {0};
-        if (mDeductions->RecordCount() > 0) {
-            for (mDeductions->MoveFirst(); !mDeductions->AtEnd(); mDeductions->MoveNext())
-                mTotDeductibles = mTotDeductibles + mDeductions->Fields("Quantity");
-        }
+        AddQuantities(mTotDeductibles);
     } catch (const RuntimeError &) {
         MsgBox("clsDraft::GetTotDeductibles");
     }

@@ -68,6 +68,8 @@ public:
     /// Something differs from what was last loaded or made new.
     [[nodiscard]] bool ToSave() const { return mToSave; }
     void ToSave(bool toSave) { mToSave = toSave; }
+    /// What was read, or the ship, has changed since the net displacement was calculated. False where there is none.
+    [[nodiscard]] bool IsOutdated();
     /// The draft was read from or written to the store.
     [[nodiscard]] bool HasRecord() const { return mHasRecord; }
     void HasRecord(bool hasRecord) { mHasRecord = hasRecord; }
@@ -142,6 +144,7 @@ private:
     /// The quantities of a draft in the store; none of the draft before stay where they cannot be had.
     void OpenDeductions(std::int32_t draftID);
     Value GetTotDeductibles();
+    void AddQuantities(Value &total);
 
     void CalculateDrafts();
     [[nodiscard]] bool CalculateAtTrueMeanDraft();
@@ -168,6 +171,7 @@ private:
     std::int16_t mDraftMode = 0;
     bool mToSave = false;
     bool mHasRecord = false;
+    bool mChangedSinceRun = false;
 
     Value mSpecificGravity;
     Value mFwdPort, mFwdStbd, mMidPort, mMidStbd, mAftPort, mAftStbd;

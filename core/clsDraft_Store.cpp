@@ -103,6 +103,7 @@ try {
     ReadDeductions();
     mDraftMode = 1;
     mHasRecord = true;
+    mChangedSinceRun = true;
     static_cast<void>(Calculate(0));
     return ReturnCode::Success;
 } catch (const RuntimeError &) {
@@ -138,8 +139,7 @@ void clsDraft::ReadDeductions()
     // Not reset first: the calculation that follows sets the total right. The screen may have left a text here.
     if (!mTotDeductibles.IsNumber())
         mTotDeductibles = Val2Dec(mTotDeductibles);
-    for (mDeductions->MoveFirst(); !mDeductions->AtEnd(); mDeductions->MoveNext())
-        mTotDeductibles = mTotDeductibles + mDeductions->Fields("Quantity");
+    AddQuantities(mTotDeductibles);
 }
 
 std::int32_t clsDraft::DeleteDraft()

@@ -200,7 +200,8 @@ void ReportPreview::Print()
         mTold->setText(tr("Sent to the printer."));
         mTold->show();
     } catch (const RuntimeError &) {
-        MsgBox("Error while printing the report.", MsgIcon::Critical);
+        MsgBox("Error while printing the report.\n\nPlease check the default printer, or save the report as PDF.",
+               MsgIcon::Critical);
     }
 }
 

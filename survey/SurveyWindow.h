@@ -158,6 +158,8 @@ protected:
     bool Calculate();
     [[nodiscard]] bool ValidCalcInput();
     virtual void LoadDraft(const Stage &stage);
+    /// The figures that a calculation gives. False where the rest of the draft is not to be shown.
+    [[nodiscard]] virtual bool ShowResults(const Stage &stage, clsDraft &draft);
     void InitializeAllGrids(bool rebuild);
     void ShowFinalCaptions(const ResultCaptions &captions);
     void ShowFinalCell(int row, const Value &value);
@@ -200,6 +202,9 @@ protected:
 
     // Saving
     [[nodiscard]] bool ValidDrafts();
+    /// Calculates the drafts to be saved whose figures were changed after their last calculation: a net displacement
+    /// in the store belongs to the marks beside it. False where a message has told why that cannot be.
+    [[nodiscard]] bool BringUpToDate();
     [[nodiscard]] bool AnyToSave() const;
     void NewDailyDraft();
     void cmdNewDailyDraft_Click();
@@ -236,6 +241,7 @@ protected:
     bool mNoEvents = false; ///< the program itself changes controls: change and click handlers do nothing
 
 private:
+    static constexpr std::int16_t kFullRun = 0; ///< of clsDraft::Calculate
     struct SaveState;
 
     void BuildWindow();
@@ -276,6 +282,8 @@ private:
     void ForgetUnsavedRow();
     [[nodiscard]] std::int32_t WriteDrafts();
     [[nodiscard]] std::int32_t GetNewRecordID();
+    [[nodiscard]] bool BringUpToDate(const Stage &stage);
+    static void TellNotCalculated();
     void DeleteInitial();
     void DeleteDaily();
     void DeleteFinal();

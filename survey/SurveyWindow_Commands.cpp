@@ -40,15 +40,19 @@ void TellDeleteFailure(std::string_view text, std::string_view caption)
 }
 } // namespace
 
+void SurveyWindow::TellNotCalculated()
+{
+    TellExclamation("Incomplete data...!\n\nPlease enter all the details and press calculate before saving.");
+}
+
 void SurveyWindow::RSave()
 try {
     if (ui->fgrdFinalResult->Cell(9, 1).isEmpty()) {
-        TellExclamation("Incomplete data...!\n\n"
-                        "Please enter all the details and press calculate before saving.");
+        TellNotCalculated();
         return;
     }
     CollectDraft(ActiveStage());
-    if (!ValidDrafts())
+    if (!BringUpToDate() || !ValidDrafts())
         return;
     const std::int32_t code = SaveDraft();
     switch (code) {
@@ -91,7 +95,7 @@ void SurveyWindow::ShowSavedStage()
 bool SurveyWindow::StartsNewDaily(MsgAnswer answer)
 {
     if (answer == MsgAnswer::Yes)
-        return ValidDrafts() && SaveBeforeNewDaily();
+        return BringUpToDate() && ValidDrafts() && SaveBeforeNewDaily();
     return answer == MsgAnswer::No;
 }
 
@@ -126,7 +130,7 @@ void SurveyWindow::RNew()
         if (answer == MsgAnswer::Cancel)
             return;
         if (answer == MsgAnswer::Yes) {
-            if (!ValidDrafts())
+            if (!BringUpToDate() || !ValidDrafts())
                 return;
             const std::int32_t code = SaveDraft();
             if (code == ReturnCode::DuplicateDraft)
@@ -232,7 +236,7 @@ void SurveyWindow::RClose(bool &cancel)
         return;
     }
     const bool selected = ValidSelection();
-    const bool valid = ValidDrafts();
+    const bool valid = BringUpToDate() && ValidDrafts();
     if (!selected || !valid) {
         cancel = true;
         return;

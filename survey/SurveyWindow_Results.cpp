@@ -10,7 +10,6 @@
 
 namespace
 {
-constexpr std::int16_t kFullRun = 0;
 /// Decimal places of rows 0 to 8 of the results grid.
 constexpr std::array<int, 9> kFinalPlaces {5, 4, 4, 4, 4, 5, 5, 5, 5};
 
@@ -86,18 +85,20 @@ void SurveyWindow::LoadDraft(const Stage &stage)
     SetListCorrection(stage, draft.ListCorrected());
     mNoEvents = false;
     ui->txtComments->setPlainText(QString::fromStdString(draft.Comments()));
-    ShowDrafts(draft);
-
-    bool showDeductions = true;
-    if (!ui->txtTrueMeanDraft->text().isEmpty()) {
-        ShowHydrostatics(draft);
-        if (ListCorrectionOf(stage).isChecked())
-            ShowListCorrection(draft);
-        ShowFinalResult(draft);
-        showDeductions = ShowStageResults(stage, draft);
-    }
-    if (showDeductions)
+    if (ShowResults(stage, draft))
         ShowDeductions(draft.Deductions());
+}
+
+bool SurveyWindow::ShowResults(const Stage &stage, clsDraft &draft)
+{
+    ShowDrafts(draft);
+    if (ui->txtTrueMeanDraft->text().isEmpty())
+        return true;
+    ShowHydrostatics(draft);
+    if (ListCorrectionOf(stage).isChecked())
+        ShowListCorrection(draft);
+    ShowFinalResult(draft);
+    return ShowStageResults(stage, draft);
 }
 
 void SurveyWindow::ShowEntries(clsDraft &draft)

@@ -8,6 +8,8 @@
 
 #include <QSignalBlocker>
 
+#include <algorithm>
+
 /// What a save changes in memory before the store has confirmed it.
 struct SurveyWindow::SaveState {
     struct Draft {
@@ -106,6 +108,36 @@ bool SurveyWindow::ValidDraft()
         return false;
     }
     return true;
+}
+
+bool SurveyWindow::BringUpToDate(const Stage &stage)
+{
+    clsDraft &draft = DraftOf(stage);
+    if (!draft.IsOutdated())
+        return true;
+    const bool isShown = stage == ActiveStage();
+    if (isShown && !ValidCalcInput())
+        return false;
+    if (draft.Calculate(kFullRun) == ReturnCode::NotCalculated) {
+        ActivateTab(stage);
+        return false;
+    }
+    if (draft.IsOutdated()) {
+        ActivateTab(stage);
+        TellNotCalculated();
+        return false;
+    }
+    if (isShown) {
+        static_cast<void>(ShowResults(stage, draft));
+        CheckResults(stage);
+    }
+    return true;
+}
+
+bool SurveyWindow::BringUpToDate()
+{
+    return std::ranges::all_of(Stage::All(),
+                               [this](const Stage &stage) { return !DraftOf(stage).ToSave() || BringUpToDate(stage); });
 }
 
 bool SurveyWindow::ValidDrafts()

@@ -21,6 +21,12 @@ Value Figure(const Value &value)
     return value.IsAbsent() ? Value(std::int16_t {0}) : value;
 }
 
+void TellLoadFailure()
+{
+    // The loading window's name stands here, and is meant to.
+    MsgBox("frmDraftSurvey::LoadDraft");
+}
+
 bool IsCloseKey(const QKeyEvent &key)
 {
     return key.key() == Qt::Key_F4 && key.modifiers().testFlag(Qt::ControlModifier);
@@ -103,13 +109,18 @@ void frmDSDispatch::PrepareQuantities()
 }
 
 void frmDSDispatch::LoadDraft(const Stage &stage)
-{
-    try {
-        SurveyWindow::LoadDraft(stage);
-    } catch (const RuntimeError &) {
-        // The loading window's name stands here, and is meant to.
-        MsgBox("frmDraftSurvey::LoadDraft");
-    }
+try {
+    SurveyWindow::LoadDraft(stage);
+} catch (const RuntimeError &) {
+    TellLoadFailure();
+}
+
+bool frmDSDispatch::ShowResults(const Stage &stage, clsDraft &draft)
+try {
+    return SurveyWindow::ShowResults(stage, draft);
+} catch (const RuntimeError &) {
+    TellLoadFailure();
+    return false;
 }
 
 bool frmDSDispatch::ShowStageResults(const Stage &stage, clsDraft &draft)
@@ -270,6 +281,8 @@ void frmDSDispatch::cmbDailyDateTime_Click()
 
 bool frmDSDispatch::StartsNewDaily(MsgAnswer answer)
 {
+    if (answer == MsgAnswer::Yes && !BringUpToDate())
+        return false;
     if (!ValidDrafts())
         return true;
     return answer == MsgAnswer::Yes ? SaveBeforeNewDaily() : answer == MsgAnswer::No;

@@ -31,6 +31,7 @@ protected:
     void cmbDailyDateTime_Click() override;
 
     void LoadDraft(const Stage &stage) override;
+    [[nodiscard]] bool ShowResults(const Stage &stage, clsDraft &draft) override;
     [[nodiscard]] ResultCaptions FreshCaptions(const Stage &stage) const override;
     [[nodiscard]] bool ShowStageResults(const Stage &stage, clsDraft &draft) override;
     void CheckResults(const Stage &stage) override;

@@ -1,5 +1,6 @@
 #include "frame/platform/Shell.h"
 
+#include "core/MsgBox.h"
 #include "core/numeric/RuntimeError.h"
 
 #include <QDesktopServices>
@@ -99,13 +100,17 @@ bool OpensCompiledHelp()
 #endif
 }
 
+void OpenOrTell(const QUrl &place)
+{
+    if (!QDesktopServices::openUrl(place))
+        MsgBox("No program was found here to open\n\n" + place.toDisplayString(QUrl::PreferLocalFile).toStdString(),
+               MsgIcon::Exclamation);
+}
+
 class Desktop : public Shell
 {
 public:
-    void OpenLink(const QString &address, const QString & /*workingDirectory*/) override
-    {
-        QDesktopServices::openUrl(QUrl(address));
-    }
+    void OpenLink(const QString &address, const QString & /*workingDirectory*/) override { OpenOrTell(QUrl(address)); }
 
     void ShowHelp(const QString &file) override
     {
@@ -113,7 +118,7 @@ public:
             return;
         const QFileInfo pages(QFileInfo(file).dir(), "help/index.html");
         if (pages.exists())
-            QDesktopServices::openUrl(QUrl::fromLocalFile(pages.filePath()));
+            OpenOrTell(QUrl::fromLocalFile(pages.filePath()));
     }
 
     void StartCalculator() override

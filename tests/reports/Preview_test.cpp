@@ -79,7 +79,9 @@ TEST_F(Preview, PrintsSavesAndTellsWhatWentWrong)
     EXPECT_EQ(mPrinted, "V1;");
     EXPECT_EQ(Told(), "Sent to the printer.");
     mPrinterGone = true;
-    mMessages.Expect({.text = "Error while printing the report.", .icon = MsgIcon::Critical});
+    mMessages.Expect({.text = "Error while printing the report.\n\nPlease check the default printer, or save the "
+                              "report as PDF.",
+                      .icon = MsgIcon::Critical});
     PressControl(Qt::Key_P);
 
     PressControl(Qt::Key_S); // thought better of it

@@ -161,6 +161,53 @@ TEST_F(Save, NewDailyAsksForAllDraftsAndClosingForTheHeaderToo)
     EXPECT_EQ(StoredSurveys(), R"([1,1,"V2",1,"Coke",341.68513,1])");
 }
 
+TEST_F(Save, ANetDisplacementInTheStoreBelongsToTheMarksBesideIt)
+{
+    const auto stored = [](int type) {
+        return Ask("SELECT NetDisplacement FROM DraftDetails WHERE DraftType = " + std::to_string(type)).Text();
+    };
+    StoreSurvey();
+    StoreDraft(2, "202403131405");
+    Open();
+    Fill("txtDensity", "1.02");
+    SaveWell();
+    const std::string net = Cell("fgrdFinalResult", 9, 1);
+    EXPECT_EQ(stored(0), net);
+    EXPECT_GT(std::stod(net), 22441.68513);
+    Calculate();
+    EXPECT_EQ(Cell("fgrdFinalResult", 9, 1), net);
+    ExpectTold(kNoChanges, [&] { PressSave(); });
+
+    // From another tab, and with a cargo changed in the same breath.
+    ClickTab("Daily");
+    FillCell(0, "400");
+    ClickTab("Initial");
+    Fill("txtCargo", "Coke");
+    SaveWell();
+    EXPECT_EQ(stored(2), "23911.30539");
+    EXPECT_EQ(Text("txtCargo") + Ask("SELECT Cargo FROM DraftParticulars").Text(), "CokeCoke");
+
+    // What cannot be calculated is not stored.
+    const std::string before = Stored();
+    Fill("txtAftPort", "");
+    ExpectTold("Incomplete data.\n\nPlease enter value for Aft Port.", [&] { PressSave(); });
+    Fill("txtAftPort", "30");
+    const char *const above = "Value of TMD > calculated TMD does not exists in Hydrostatic data for the current ship."
+                              "\n\nPlease check your input values.";
+    ExpectTold(
+        above, [&] { PressSave(); }, MsgIcon::Critical);
+    Prompt(kClosePrompt, MsgAnswer::Yes);
+    ExpectTold(
+        above, [&] { PressClose(); }, MsgIcon::Critical);
+    EXPECT_EQ(Stored(), before);
+    ASSERT_TRUE(IsOpen());
+    Fill("txtAftPort", "8.61");
+    Prompt(kClosePrompt, MsgAnswer::Yes);
+    PressClose();
+    EXPECT_FALSE(IsOpen());
+    EXPECT_EQ(stored(0), net);
+}
+
 TEST_F(Save, ASurveyStandsInTheStoreOnce)
 {
     const char *const aborted = "Save aborted.\n\nYou already have a draft with specified Ship, VoyageID, and Port.";
