@@ -11,6 +11,7 @@
 #include <QComboBox>
 #include <QDir>
 #include <QFileDialog>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPointer>
 #include <QScreen>
@@ -135,7 +136,10 @@ void ReportPreview::AddCommands()
     AddCommand(tr("Print"), {QKeySequence::Print}, [this] { Print(); });
     AddCommand(tr("Save as PDF..."), {QKeySequence::Save}, [this] { SaveAsPdf(); });
     mTools->addSeparator();
-    AddCommand(tr("Close"), {QKeySequence(Qt::Key_Escape), QKeySequence(Qt::CTRL | Qt::Key_F4)}, [this] { close(); });
+    // A shortcut would close the preview along with an open list.
+    AddCommand(tr("Close"), {QKeySequence(Qt::Key_Escape)}, [this] {
+        close();
+    })->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_F4));
 }
 
 double ReportPreview::Zoom() const
@@ -172,6 +176,9 @@ void ReportPreview::ApplyFit()
 
 void ReportPreview::ShowZoom()
 {
+    QPalette readable = palette();
+    readable.setBrush(QPalette::PlaceholderText, readable.buttonText());
+    mZooms->setPalette(readable);
     mZooms->setPlaceholderText(Percent(Zoom()));
     mZooms->setCurrentIndex(mZooms->findText(Percent(Zoom())));
 }
@@ -236,6 +243,14 @@ bool ReportPreview::eventFilter(QObject *watched, QEvent *event)
         }
     }
     return QWidget::eventFilter(watched, event);
+}
+
+void ReportPreview::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Escape)
+        close();
+    else
+        QWidget::keyPressEvent(event);
 }
 
 void ReportPreview::closeEvent(QCloseEvent *event)

@@ -290,5 +290,6 @@ private:
     void ShowSavedStage();
 
     int mTab = 0;
+    bool mQuantitiesWithheld = false; ///< blank cells are not shown quantities, and no zeros
     FloatingEditor *txtGridTextbox = nullptr;
 };

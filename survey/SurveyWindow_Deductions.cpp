@@ -94,6 +94,7 @@ void SurveyWindow::ClearDeductions()
 
 void SurveyWindow::ShowDeductions(Recordset &deductions)
 {
+    mQuantitiesWithheld = false;
     ClearDeductions();
     Grid &grid = *ui->fgrdDeduction;
     const clsDraft &draft = DraftOf(ActiveStage());
@@ -130,16 +131,18 @@ void SurveyWindow::CollectDeductions(const Stage &stage)
     Recordset &deductions = DraftOf(stage).Deductions();
     if (mRsItems.State() != 1 || deductions.State() != 1)
         return;
-    int row = 0;
+    int row = -1;
     for (mRsItems.MoveFirst(); !mRsItems.AtEnd(); mRsItems.MoveNext()) {
+        const QString quantity = ui->fgrdDeduction->Cell(++row, kQuantityColumn);
+        if (mQuantitiesWithheld && quantity.isEmpty())
+            continue;
         const Value item = mRsItems.Fields("ItemID");
         deductions.Find("ItemID = " + item.SqlText(), 0, Recordset::kSearchForward, Recordset::kBookmarkFirst);
         if (deductions.AtEnd()) {
             deductions.AddNew();
             deductions.Fields("ItemID", item);
         }
-        deductions.Fields("Quantity", DecimalOrZero(ui->fgrdDeduction->Cell(row, kQuantityColumn)));
+        deductions.Fields("Quantity", DecimalOrZero(quantity));
         deductions.Update();
-        ++row;
     }
 }

@@ -141,6 +141,7 @@ void SurveyWindow::mbxDate_Validate(bool &cancel)
         TellExclamation("Invalid Date");
         cancel = true;
         ui->mbxDate->SetText(QString::fromStdString(DateText(Now())));
+        ui->mbxDate->selectAll();
         return;
     }
     // Month first goes in day first, with no message.
@@ -156,6 +157,7 @@ void SurveyWindow::mbxTime_Validate(bool &cancel)
     TellExclamation("Invalid Time");
     cancel = true;
     ui->mbxTime->SetText(QString::fromStdString(TimeText(Now())));
+    ui->mbxTime->selectAll();
 }
 
 void SurveyWindow::SetListCorrection(const Stage &stage, bool on)

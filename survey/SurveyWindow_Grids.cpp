@@ -27,6 +27,7 @@ void SurveyWindow::InitializeAllGrids(bool rebuild)
 try {
     LayOutGrids();
     ShowFreshHeadings();
+    mQuantitiesWithheld = false;
     if (rebuild)
         RebuildDeductions();
     else

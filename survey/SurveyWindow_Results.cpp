@@ -74,6 +74,7 @@ bool SurveyWindow::ValidCalcInput()
 void SurveyWindow::LoadDraft(const Stage &stage)
 {
     InitializeAllGrids(true);
+    mQuantitiesWithheld = true;
     clsDraft &draft = DraftOf(stage);
     if (stage == Stage::Initial && mRsParticulars.State() == 1 && mRsParticulars.RecordCount() > 0) {
         mRsParticulars.MoveFirst();

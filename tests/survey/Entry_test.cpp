@@ -75,6 +75,7 @@ TEST_F(Entry, ADateOrTimeThatIsNoneGivesWayToThePresentOnce)
             SCOPED_TRACE(typed.toStdString());
             ExpectTold(message, [&, leaving = field] { Leave(leaving, typed); });
             EXPECT_EQ(Focus() + " " + Text(field), std::string(field) + " " + present);
+            EXPECT_EQ(The<QLineEdit>(field).selectedText().toStdString(), present) << "what is typed next replaces it";
             Press(Qt::Key_Return);
             EXPECT_NE(Focus(), field);
         }

@@ -173,6 +173,30 @@ TEST_F(DischargingByKeyboard, FiguresThatCannotBeAreRedAndTold)
     EXPECT_TRUE(IsRed(The<QLineEdit>("txtFinTotCargoDis")) && !IsRed(The<QLineEdit>("txtConstant")));
 }
 
+TEST_F(DischargingByKeyboard, WhereNothingWasDischargedTheQuantitiesAreHiddenAndKept)
+{
+    AddShip();
+    Open();
+    EnterWorked();
+    Fill("txtBLQty", "5000");
+    SaveWell();
+    ClickTab("Daily");
+    FillMarks(kWorkedMarks);
+    FillCell(0, "350");
+    FillCell(1, "120.5");
+    const auto quantities = [this] { return Cell("fgrdDeduction", 0, 1) + " " + Cell("fgrdDeduction", 1, 1); };
+    ExpectTold(
+        "frmDraftSurvey::LoadDraft", [this] { Calculate(); }, MsgIcon::None);
+    EXPECT_EQ(quantities(), " ");
+    FillCell(1, "150");
+    SaveWell();
+    EXPECT_EQ(StoredDeductions(), "1:2=350 1:3=120.5 2:2=350 2:3=150");
+    EXPECT_EQ(Ask("SELECT NetDisplacement FROM DraftDetails WHERE DraftType = 2").Text(), "22412.18513");
+    Fill("txtFwdPort", "7.4");
+    Calculate();
+    EXPECT_EQ(quantities(), "350 150");
+}
+
 TEST_F(DischargingByKeyboard, TheCloseKeyIgnoresErrorsAndKeepsTheWindow)
 {
     AddShip();
