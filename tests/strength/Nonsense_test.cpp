@@ -105,6 +105,7 @@ bool IsKnown(const End &end)
     switch (end.error) {
     case 0:
     case ErrorNumber::TypeMismatch: // letters in a number field that was left without its check
+    case ErrorNumber::Overflow: // a number too large for any there; two Daily drafts of one moment at closing
         return true;
     case ErrorNumber::NoObject: // the ship window went unsaved and left its commands on, with no window behind them
         return end.description.find("Keelmark-10088") != std::string::npos
