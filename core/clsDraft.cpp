@@ -25,6 +25,18 @@ void clsDraft::NewDraft()
     mDSDate = DateText(now);
     mDSTime = TimeText(now);
     mFwdPort = mFwdStbd = mMidPort = mMidStbd = mAftPort = mAftStbd = blank;
+    ClearResults();
+    mListCorrected = false;
+    mComments.clear();
+    InitDeductions();
+    mDraftMode = 0;
+    mToSave = false;
+    mHasRecord = false;
+}
+
+void clsDraft::ClearResults()
+{
+    const Value blank = Value::EmptyText();
     mFwdMean = mMidMean = mAftMean = mApparentTrim = blank;
     mFwdCorrection = mMidCorrection = mAftCorrection = blank;
     mFwdTrueDraft = mMidTrueDraft = mAftTrueDraft = mTrueTrim = mTrueMeanDraft = blank;
@@ -37,12 +49,6 @@ void clsDraft::NewDraft()
     for (auto &row : mIpResult)
         row.fill(blank);
     mFinalResult.fill(blank);
-    mListCorrected = false;
-    mComments.clear();
-    InitDeductions();
-    mDraftMode = 0;
-    mToSave = false;
-    mHasRecord = false;
 }
 
 void clsDraft::SetNumber(Value &field, const Value &value)

@@ -140,6 +140,7 @@ private:
 
     void SetNumber(Value &field, const Value &value);
     void SetText(std::string &field, std::string_view text);
+    void ClearResults();
     void InitDeductions();
     /// The quantities of a draft in the store; none of the draft before stay where they cannot be had.
     void OpenDeductions(std::int32_t draftID);

@@ -103,7 +103,8 @@ try {
     ReadDeductions();
     mDraftMode = 1;
     mHasRecord = true;
-    mChangedSinceRun = true;
+    // Where it cannot be calculated, nothing of the draft before may stand beside its marks.
+    ClearResults();
     static_cast<void>(Calculate(0));
     return ReturnCode::Success;
 } catch (const RuntimeError &) {

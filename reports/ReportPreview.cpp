@@ -160,6 +160,11 @@ void ReportPreview::FitTo(Fit fit)
     ApplyFit();
 }
 
+void ReportPreview::ForgetTold()
+{
+    mTold->hide();
+}
+
 void ReportPreview::ApplyFit()
 {
     if (mFit == Fit::None)
@@ -265,6 +270,7 @@ void ShowReport(Report &report, QWidget *before)
     QPointer<ReportPreview> &preview = OpenPreviews()[&report];
     if (!preview)
         preview = new ReportPreview(report, before);
+    preview->ForgetTold();
     preview->setWindowState(preview->windowState() & ~Qt::WindowMinimized);
     preview->show();
     preview->raise();

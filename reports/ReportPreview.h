@@ -28,6 +28,8 @@ public:
     void Zoom(double zoom);
     void FitTo(Fit fit);
     [[nodiscard]] double Zoom() const;
+    /// Takes away what was told of an earlier print or PDF.
+    void ForgetTold();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -202,8 +202,9 @@ protected:
 
     // Saving
     [[nodiscard]] bool ValidDrafts();
-    /// Calculates the drafts to be saved whose figures were changed after their last calculation: a net displacement
-    /// in the store belongs to the marks beside it. False where a message has told why that cannot be.
+    /// Before a save: a net displacement in the store belongs to the marks and the ship beside it. Calculates the
+    /// draft of the active stage where its figures were changed after their last calculation. False where a message
+    /// has told why that cannot be, or that another stage has to be calculated first.
     [[nodiscard]] bool BringUpToDate();
     [[nodiscard]] bool AnyToSave() const;
     void NewDailyDraft();
@@ -282,7 +283,10 @@ private:
     void ForgetUnsavedRow();
     [[nodiscard]] std::int32_t WriteDrafts();
     [[nodiscard]] std::int32_t GetNewRecordID();
-    [[nodiscard]] bool BringUpToDate(const Stage &stage);
+    /// False where the stage is shown and the user told that it has to be calculated.
+    [[nodiscard]] bool IsUpToDate(const Stage &stage);
+    /// The survey is in the store under another ship than the one picked.
+    [[nodiscard]] bool IsOfAnotherShip();
     static void TellNotCalculated();
     void DeleteInitial();
     void DeleteDaily();

@@ -28,10 +28,12 @@ try {
     LayOutGrids();
     ShowFreshHeadings();
     mQuantitiesWithheld = false;
-    if (rebuild)
+    if (rebuild) {
+        mQuantitiesWithheld = false;
         RebuildDeductions();
-    else
+    } else {
         ClearListCorrection();
+    }
 } catch (const RuntimeError &error) {
     TellSource(error, "InitializeAllGrids");
 }

@@ -99,6 +99,9 @@ try {
         TellExclamation(blnShowPreview ? "No valid draft for preview." : "No valid draft for printing.");
         return;
     }
+    for (const Stage &stage : {Stage::Initial, Stage::Final})
+        if (!(stage == ActiveStage()) && !IsUpToDate(stage))
+            return;
     FillReport(Reported());
     if (blnShowPreview) {
         ShowReport(OwnReport(), window());

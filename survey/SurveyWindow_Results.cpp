@@ -76,7 +76,8 @@ void SurveyWindow::LoadDraft(const Stage &stage)
     InitializeAllGrids(true);
     mQuantitiesWithheld = true;
     clsDraft &draft = DraftOf(stage);
-    if (stage == Stage::Initial && mRsParticulars.State() == 1 && mRsParticulars.RecordCount() > 0) {
+    // A cargo that was changed stays.
+    if (stage == Stage::Initial && !mHeaderDirty && mRsParticulars.State() == 1 && mRsParticulars.RecordCount() > 0) {
         mRsParticulars.MoveFirst();
         ui->txtCargo->setText(ScreenText(mRsParticulars.Fields("Cargo")));
         ui->txtCargo->home(false);

@@ -110,34 +110,37 @@ bool SurveyWindow::ValidDraft()
     return true;
 }
 
-bool SurveyWindow::BringUpToDate(const Stage &stage)
+bool SurveyWindow::IsUpToDate(const Stage &stage)
 {
-    clsDraft &draft = DraftOf(stage);
-    if (!draft.IsOutdated())
+    if (!DraftOf(stage).IsOutdated())
         return true;
-    const bool isShown = stage == ActiveStage();
-    if (isShown && !ValidCalcInput())
-        return false;
-    if (draft.Calculate(kFullRun) == ReturnCode::NotCalculated) {
-        ActivateTab(stage);
-        return false;
-    }
-    if (draft.IsOutdated()) {
-        ActivateTab(stage);
-        TellNotCalculated();
-        return false;
-    }
-    if (isShown) {
-        static_cast<void>(ShowResults(stage, draft));
-        CheckResults(stage);
-    }
-    return true;
+    ActivateTab(stage);
+    TellNotCalculated();
+    return false;
 }
 
 bool SurveyWindow::BringUpToDate()
 {
+    if (IsOfAnotherShip())
+        for (const Stage &stage : Stage::All())
+            DraftOf(stage).ToSave(DraftOf(stage).IsThere());
+    const Stage &shown = ActiveStage();
+    clsDraft &draft = DraftOf(shown);
+    if (draft.ToSave() && draft.IsOutdated()) {
+        if (!ValidCalcInput() || draft.Calculate(kFullRun) == ReturnCode::NotCalculated)
+            return false;
+        if (ShowResults(shown, draft) && mQuantitiesWithheld)
+            ShowDeductions(draft.Deductions());
+        CheckResults(shown);
+    }
     return std::ranges::all_of(Stage::All(),
-                               [this](const Stage &stage) { return !DraftOf(stage).ToSave() || BringUpToDate(stage); });
+                               [this](const Stage &stage) { return !DraftOf(stage).ToSave() || IsUpToDate(stage); });
+}
+
+bool SurveyWindow::IsOfAnotherShip()
+{
+    return mRsParticulars.State() == 1 && mRsParticulars.RecordCount() > 0
+        && mRsParticulars.Fields("ShipID").SqlText() != ui->dcbShip->BoundValue().SqlText();
 }
 
 bool SurveyWindow::ValidDrafts()

@@ -283,8 +283,9 @@ bool frmDSDispatch::StartsNewDaily(MsgAnswer answer)
 {
     if (answer == MsgAnswer::Yes && !BringUpToDate())
         return false;
+    // Where another stage is in front now, it would be blanked.
     if (!ValidDrafts())
-        return true;
+        return ActiveStage() == Stage::Daily;
     return answer == MsgAnswer::Yes ? SaveBeforeNewDaily() : answer == MsgAnswer::No;
 }
 

@@ -115,6 +115,25 @@ TEST_F(Lookup, DatesAreListedAsTextsAndBringUpTheirDrafts)
     EXPECT_FALSE(IsOpen());
 }
 
+TEST_F(Lookup, ADraftThatCannotBeCalculatedHasNoFiguresOfTheOneBefore)
+{
+    StoreSurvey();
+    StoreDraft(2, "202403021000");
+    StoreDraft(2, "202401151830");
+    Run("UPDATE DraftDetails SET AftPortDraft = 30 WHERE DateTime = 202401151830");
+    Open();
+    ClickTab("Daily");
+    Fill("mbxDate", "15012024");
+    Fill("mbxTime", "1830");
+    ExpectTold(
+        "Value of TMD > calculated TMD does not exists in Hydrostatic data for the current ship.\n\n"
+        "Please check your input values.",
+        [&] { Fetch(); }, MsgIcon::Critical);
+    EXPECT_EQ(Text("txtAftPort"), "30");
+    EXPECT_EQ(Cell("fgrdFinalResult", 0, 1) + Cell("fgrdFinalResult", 9, 1), "");
+    EXPECT_EQ(StoredDeductions(), "1:2=350 1:3=120.5 2:2=470.5 3:2=470.5");
+}
+
 TEST_F(Lookup, TheBaselineIsPickedFromTheDraftsInTimesOrder)
 {
     StoreSurvey();

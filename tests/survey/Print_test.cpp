@@ -68,6 +68,18 @@ TEST_F(Printing, SendsInitialAndFinalToThePrinter)
     EXPECT_EQ(mPrinted->Caption("lblFinTotDeductibles"), final + " MT");
     EXPECT_EQ(mPrinted->Caption("lblTotCargoLoaded"), Text("txtTotCargoLoaded") + " MT");
 
+    // What stands on another tab is calculated first.
+    ClickTab("Initial");
+    Fill("txtDensity", "1.02");
+    ClickTab("Final");
+    mPrinted = nullptr;
+    ExpectTold("Incomplete data...!\n\nPlease enter all the details and press calculate before saving.",
+               [this] { PressPrint(); });
+    EXPECT_EQ(Tab(), "Initial");
+    EXPECT_FALSE(mPrinted);
+    Calculate();
+    ClickTab("Final");
+
     // A filling leaves alone what it does not fill; the next survey's report must not show it, so closing unloads it.
     EXPECT_EQ(drptDraftSurvey().Caption("lblFinMisc1"), "2.5 MT");
     PressPreview();

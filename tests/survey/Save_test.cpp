@@ -10,6 +10,8 @@ using testing::ElementsAre;
 const char *const kNewPrompt = "Save changes to draft/s";
 const char *const kDailyPrompt = "Save changes to daily draft";
 const char *const kBadConstant = "Invalid constant value.\n\nPlease check your input values.";
+const char *const kUncalculated
+    = "Incomplete data...!\n\nPlease enter all the details and press calculate before saving.";
 const char *const kBadNet = "Invalid Net Displacement value.\n\nPlease check your input values.";
 
 class Save : public SurveyDesk
@@ -56,7 +58,7 @@ TEST_F(Save, WantsACalculationAndValidFigures)
     AddShip();
     Open();
     const auto expectRefused = [this](const char *text) { ExpectTold(text, [&] { PressSave(); }); };
-    expectRefused("Incomplete data...!\n\nPlease enter all the details and press calculate before saving.");
+    expectRefused(kUncalculated);
     Pick("dcbShip", 0);
     FillMarks(kWorkedMarks);
     FillCell(0, "470.5");
@@ -183,6 +185,10 @@ TEST_F(Save, ANetDisplacementInTheStoreBelongsToTheMarksBesideIt)
     FillCell(0, "400");
     ClickTab("Initial");
     Fill("txtCargo", "Coke");
+    ExpectTold(kUncalculated, [&] { PressSave(); });
+    EXPECT_EQ(Tab(), "Daily");
+    Calculate();
+    ClickTab("Initial");
     SaveWell();
     EXPECT_EQ(stored(2), "23911.30539");
     EXPECT_EQ(Text("txtCargo") + Ask("SELECT Cargo FROM DraftParticulars").Text(), "CokeCoke");
@@ -206,6 +212,25 @@ TEST_F(Save, ANetDisplacementInTheStoreBelongsToTheMarksBesideIt)
     PressClose();
     EXPECT_FALSE(IsOpen());
     EXPECT_EQ(stored(0), net);
+}
+
+TEST_F(Save, AnotherShipIsSavedWithHerOwnNetDisplacements)
+{
+    StoreSurvey();
+    StoreDraft(2, "202403131405");
+    AddShip();
+    Run("UPDATE Ship SET ShipName = 'MV Zebra' WHERE ShipID = 2");
+    Run("UPDATE HydrostaticDataTable SET Displacement = Displacement + 102.5 WHERE ShipID = 2");
+    Open();
+    Pick("dcbShip", 1);
+    ExpectTold(kUncalculated, [&] { PressSave(); });
+    EXPECT_EQ(Tab(), "Daily");
+    Calculate();
+    SaveWell();
+    EXPECT_EQ(Ask("SELECT ShipID || ' ' || group_concat(NetDisplacement, ' ') FROM DraftParticulars NATURAL JOIN "
+                  "DraftDetails")
+                  .Text(),
+              "2 22543.18513 23942.30539");
 }
 
 TEST_F(Save, ASurveyStandsInTheStoreOnce)
