@@ -3,8 +3,6 @@
 #include "core/DateTimeStamp.h"
 #include "core/MsgBox.h"
 
-#include <utility>
-
 clsDraft::clsDraft()
     : mDeductions(std::make_unique<Recordset>())
     , mRow(std::make_unique<Recordset>())
@@ -75,13 +73,12 @@ void clsDraft::ListCorrected(bool corrected)
         return;
     mListCorrected = corrected;
     mToSave = true;
-    mChangedSinceRun = true;
+    mListChangedSinceRun = true;
 }
 
 void clsDraft::ShipID(const Value &shipID)
 {
-    const std::int32_t before = std::exchange(mShipID, shipID.ToLong());
-    mChangedSinceRun = mChangedSinceRun || mShipID != before;
+    mShipID = shipID.ToLong();
     // SetShip has told the user of a failure.
     static_cast<void>(mShip.SetShip(mShipID));
 }
@@ -116,7 +113,7 @@ bool clsDraft::IsOutdated()
     Value deducted = std::int16_t {0};
     if (mDeductions->State() == 1)
         AddQuantities(deducted);
-    return mChangedSinceRun || !(deducted == mFinalResult[8]);
+    return mChangedSinceRun || mListChangedSinceRun || mShipID != mShipOfRun || !(deducted == mFinalResult[8]);
 }
 
 Value clsDraft::GetTotDeductibles()

@@ -172,7 +172,9 @@ private:
     std::int16_t mDraftMode = 0;
     bool mToSave = false;
     bool mHasRecord = false;
-    bool mChangedSinceRun = false;
+    bool mChangedSinceRun = false; ///< marks or density, since the last full run
+    bool mListChangedSinceRun = false;
+    std::int32_t mShipOfRun = 0;
 
     Value mSpecificGravity;
     Value mFwdPort, mFwdStbd, mMidPort, mMidStbd, mAftPort, mAftStbd;

@@ -65,9 +65,12 @@ std::int32_t clsDraft::Calculate(std::int16_t mode)
             mFinalResult[4] = Number(0);
         }
         CalculateNetDisplacement();
+        mListChangedSinceRun = false;
         // The short run goes by the drafts of the last full one.
-        if (mode != 1)
+        if (mode != 1) {
             mChangedSinceRun = false;
+            mShipOfRun = mShipID;
+        }
     } catch (const RuntimeError &) {
         // The caller goes on as if all had gone well, and is meant to: the results stand as far as they came.
         MsgBox("clsDraft::Calculate");

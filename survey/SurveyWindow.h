@@ -283,6 +283,9 @@ private:
     void ForgetUnsavedRow();
     [[nodiscard]] std::int32_t WriteDrafts();
     [[nodiscard]] std::int32_t GetNewRecordID();
+    /// Before a header is saved at closing: reads what the closing question did not ask for. False where a message has
+    /// told that there is no draft to go with it.
+    [[nodiscard]] bool CollectsUnseen();
     /// False where the stage is shown and the user told that it has to be calculated.
     [[nodiscard]] bool IsUpToDate(const Stage &stage);
     /// The survey is in the store under another ship than the one picked.
@@ -294,6 +297,7 @@ private:
     void ShowSavedStage();
 
     int mTab = 0;
+    bool mQuantityRefused = false; ///< at the last collection, so that no cell of the grid was read
     bool mQuantitiesWithheld = false; ///< blank cells are not shown quantities, and no zeros
     FloatingEditor *txtGridTextbox = nullptr;
 };

@@ -221,6 +221,21 @@ void SurveyWindow::CollectBeforeClosing()
     CollectDraft(ActiveStage());
 }
 
+bool SurveyWindow::CollectsUnseen()
+{
+    try {
+        CollectDraft(ActiveStage());
+    } catch (const RuntimeError &) {
+        TellNotCalculated();
+        return false;
+    }
+    // A survey without an Initial draft could neither be fetched nor deleted.
+    if (mMode != 0 || mInitDraft.IsThere())
+        return true;
+    TellNotCalculated();
+    return false;
+}
+
 void SurveyWindow::RClose(bool &cancel)
 {
     cancel = false;
@@ -233,6 +248,10 @@ void SurveyWindow::RClose(bool &cancel)
     const MsgAnswer answer = AskToSave("Save changes to the draft/s", MsgIcon::Question);
     if (answer != MsgAnswer::Yes) {
         cancel = answer != MsgAnswer::No;
+        return;
+    }
+    if (!anyToSave && !CollectsUnseen()) {
+        cancel = true;
         return;
     }
     const bool selected = ValidSelection();

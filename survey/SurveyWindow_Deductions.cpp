@@ -124,9 +124,9 @@ void SurveyWindow::ShowDeductions(Recordset &deductions)
 
 void SurveyWindow::CollectDeductions(const Stage &stage)
 {
-    bool cancel = false;
-    txtGridTextbox_Validate(cancel);
-    if (cancel)
+    mQuantityRefused = false;
+    txtGridTextbox_Validate(mQuantityRefused);
+    if (mQuantityRefused)
         return;
     Recordset &deductions = DraftOf(stage).Deductions();
     if (mRsItems.State() != 1 || deductions.State() != 1)

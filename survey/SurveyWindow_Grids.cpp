@@ -27,7 +27,6 @@ void SurveyWindow::InitializeAllGrids(bool rebuild)
 try {
     LayOutGrids();
     ShowFreshHeadings();
-    mQuantitiesWithheld = false;
     if (rebuild) {
         mQuantitiesWithheld = false;
         RebuildDeductions();

@@ -35,6 +35,8 @@ bool SurveyWindow::Calculate()
         return false;
     const Stage stage = ActiveStage();
     CollectDraft(stage);
+    if (mQuantityRefused)
+        return false;
     if (DraftOf(stage).Calculate(kFullRun) == ReturnCode::NotCalculated) {
         ClearReadOnly();
         return false;

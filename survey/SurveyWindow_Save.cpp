@@ -121,20 +121,28 @@ bool SurveyWindow::IsUpToDate(const Stage &stage)
 
 bool SurveyWindow::BringUpToDate()
 {
-    if (IsOfAnotherShip())
-        for (const Stage &stage : Stage::All())
-            DraftOf(stage).ToSave(DraftOf(stage).IsThere());
+    if (mQuantityRefused)
+        return false;
+    const bool ofAnotherShip = IsOfAnotherShip();
+    const auto isToSave = [this, ofAnotherShip](const Stage &stage) {
+        const clsDraft &draft = DraftOf(stage);
+        return draft.ToSave() || (ofAnotherShip && draft.IsThere());
+    };
     const Stage &shown = ActiveStage();
     clsDraft &draft = DraftOf(shown);
-    if (draft.ToSave() && draft.IsOutdated()) {
+    if (isToSave(shown) && draft.IsOutdated()) {
         if (!ValidCalcInput() || draft.Calculate(kFullRun) == ReturnCode::NotCalculated)
             return false;
         if (ShowResults(shown, draft) && mQuantitiesWithheld)
             ShowDeductions(draft.Deductions());
         CheckResults(shown);
     }
-    return std::ranges::all_of(Stage::All(),
-                               [this](const Stage &stage) { return !DraftOf(stage).ToSave() || IsUpToDate(stage); });
+    const auto mayBeSaved = [&](const Stage &stage) { return !isToSave(stage) || IsUpToDate(stage); };
+    if (!std::ranges::all_of(Stage::All(), mayBeSaved))
+        return false;
+    for (const Stage &stage : Stage::All())
+        DraftOf(stage).ToSave(isToSave(stage));
+    return true;
 }
 
 bool SurveyWindow::IsOfAnotherShip()

@@ -150,8 +150,8 @@ TEST_F(FrameTest, MenuItemsHaveNamesPicturesAndMnemonicsOfTheirOwn)
     }
     EXPECT_EQ(pictures, 17 * 3);
     EXPECT_THAT(off,
-                UnorderedElementsAre("mnuFile(0)", "mnuFile(4)", "mnuFile(6)", "mnuFile(12)",
-                                     "mnuFile(14)", "mnuShipData(5)", "mnuShipData(10)", "mnuDraftSurvey(10)"));
+                UnorderedElementsAre("mnuFile(0)", "mnuFile(4)", "mnuFile(6)", "mnuFile(12)", "mnuFile(14)",
+                                     "mnuShipData(5)", "mnuShipData(10)", "mnuDraftSurvey(10)"));
 }
 
 TEST_F(FrameTest, TheStatusBarTellsTimeAndInsert)

@@ -213,6 +213,22 @@ TEST_F(DischargingByKeyboard, TheCloseKeyIgnoresErrorsAndKeepsTheWindow)
     EXPECT_NE(Stored(), "");
 }
 
+TEST_F(DischargingByKeyboard, AYesAtClosingSavesWhatWasTypedLast)
+{
+    AddShip();
+    Open();
+    EnterWorked();
+    SaveWell();
+    Fill("txtDensity", "1.02");
+    Fill("txtCargo", "Coke");
+    Prompt(kClosePrompt, MsgAnswer::Yes);
+    PressClose();
+    EXPECT_FALSE(IsOpen());
+    EXPECT_EQ(Ask("SELECT Cargo || SpecificGravity FROM DraftParticulars NATURAL JOIN DraftDetails").Text(),
+              "Coke1.02");
+    EXPECT_EQ(Ask("SELECT NetDisplacement > 22441.68513 FROM DraftDetails").Text(), "1");
+}
+
 TEST_F(DischargingByKeyboard, AWholeSurveyIsEnteredAndSaved)
 {
     AddShip();

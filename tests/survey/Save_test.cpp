@@ -214,6 +214,33 @@ TEST_F(Save, ANetDisplacementInTheStoreBelongsToTheMarksBesideIt)
     EXPECT_EQ(stored(0), net);
 }
 
+TEST_F(Save, ARefusedQuantityStopsIt)
+{
+    StoreSurvey();
+    Open();
+    FillCell(0, "500");
+    FillCell(2, "x");
+    ExpectTold("Invalid quantity.\n\nPlease enter numeric value only.", [&] { PressSave(); });
+    EXPECT_EQ(StoredDeductions(), "1:2=350 1:3=120.5");
+    FillCell(2, "1");
+    SaveWell();
+    EXPECT_EQ(StoredDeductions(), "1:2=500 1:3=120.5 1:24=1");
+}
+
+TEST_F(Save, ASurveyWithoutADraftIsNotStored)
+{
+    AddShip();
+    Open();
+    FillHeader();
+    Prompt(kClosePrompt, MsgAnswer::Yes);
+    ExpectTold(kUncalculated, [&] { PressClose(); });
+    EXPECT_TRUE(IsOpen());
+    EXPECT_EQ(Stored(), "");
+    Prompt(kClosePrompt, MsgAnswer::No);
+    PressClose();
+    EXPECT_FALSE(IsOpen());
+}
+
 TEST_F(Save, AnotherShipIsSavedWithHerOwnNetDisplacements)
 {
     StoreSurvey();
@@ -222,6 +249,16 @@ TEST_F(Save, AnotherShipIsSavedWithHerOwnNetDisplacements)
     Run("UPDATE Ship SET ShipName = 'MV Zebra' WHERE ShipID = 2");
     Run("UPDATE HydrostaticDataTable SET Displacement = Displacement + 102.5 WHERE ShipID = 2");
     Open();
+    // There and back again, and a box that calculates at once, leave nothing to do.
+    Pick("dcbShip", 1);
+    Pick("dcbShip", 0);
+    ClickBox(The("chkInitListCorrection"));
+    ClickTab("Daily");
+    SaveWell();
+    ClickTab("Initial");
+    ClickBox(The("chkInitListCorrection"));
+    SaveWell();
+
     Pick("dcbShip", 1);
     ExpectTold(kUncalculated, [&] { PressSave(); });
     EXPECT_EQ(Tab(), "Daily");
