@@ -79,6 +79,9 @@ try {
 
 void SurveyWindow::ShowSavedStage()
 {
+    // What was saved may be a draft to compare with.
+    if (ActiveStage() == Stage::Final)
+        InitDateTimedatacombo();
     if (ActiveStage() == Stage::Initial) {
         EnableSurveyTabs(true);
         InitVoyageIDDataCombo();
@@ -105,6 +108,7 @@ bool SurveyWindow::SaveBeforeNewDaily()
     case ReturnCode::Success:
         InitDateDataCombo();
         InitTimeDataCombo();
+        InitDateTimedatacombo();
         return true;
     case ReturnCode::NothingToSave:
         TellExclamation(kNoChanges);
@@ -238,13 +242,15 @@ bool SurveyWindow::CollectsUnseen()
 
 void SurveyWindow::RClose(bool &cancel)
 {
-    cancel = false;
+    mQuantityRefused = false;
     CollectBeforeClosing();
     const bool anyToSave = AnyToSave();
-    if (!mHeaderDirty && !anyToSave)
-        return;
-    if (anyToSave)
+    // A second collection would find the refused quantity blank.
+    if (anyToSave && !mQuantityRefused)
         CollectDraft(ActiveStage());
+    cancel = mQuantityRefused;
+    if (cancel || (!mHeaderDirty && !anyToSave))
+        return;
     const MsgAnswer answer = AskToSave("Save changes to the draft/s", MsgIcon::Question);
     if (answer != MsgAnswer::Yes) {
         cancel = answer != MsgAnswer::No;

@@ -222,6 +222,10 @@ TEST_F(Save, ARefusedQuantityStopsIt)
     FillCell(2, "x");
     ExpectTold("Invalid quantity.\n\nPlease enter numeric value only.", [&] { PressSave(); });
     EXPECT_EQ(StoredDeductions(), "1:2=350 1:3=120.5");
+    FillCell(2, "200000");
+    ExpectTold("Invalid value.\n\nValue of deduction can be  greater than 0 and less than 100000.",
+               [&] { PressClose(); });
+    ASSERT_TRUE(IsOpen());
     FillCell(2, "1");
     SaveWell();
     EXPECT_EQ(StoredDeductions(), "1:2=500 1:3=120.5 1:24=1");
