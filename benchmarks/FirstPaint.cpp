@@ -3,10 +3,26 @@
 #include <QWidget>
 
 #include <cstdlib>
+#include <fstream>
+#include <iostream>
+#include <string>
 
 namespace
 {
-/// Ends the program as soon as one of its windows has been painted.
+/// The most memory that this program has held, in KiB. What the system tells its parent counts the parent's own before
+/// the program was loaded.
+long PeakMemory()
+{
+    std::ifstream status("/proc/self/status");
+    for (std::string word; status >> word;) {
+        long peak = 0;
+        if (word == "VmHWM:" && status >> peak)
+            return peak;
+    }
+    return 0;
+}
+
+/// Prints that and ends the program as soon as one of its windows has been painted.
 class FirstPaint : public QObject
 {
 public:
@@ -16,6 +32,7 @@ public:
             && static_cast<QWidget *>(watched)->isWindow()) {
             QCoreApplication::instance()->removeEventFilter(this);
             static_cast<QWidget *>(watched)->repaint();
+            std::cout << PeakMemory() << std::endl;
             std::_Exit(EXIT_SUCCESS);
         }
         return false;

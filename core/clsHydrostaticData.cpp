@@ -2,6 +2,7 @@
 
 #include "core/ReturnCode.h"
 
+#include <algorithm>
 #include <optional>
 
 namespace
@@ -13,6 +14,7 @@ const Value kHalfMetre = 0.5;
 
 std::int32_t clsHydrostaticData::InitHDT(std::int32_t shipID)
 try {
+    mFoundBrackets.clear();
     mTable = std::make_unique<Recordset>();
     mTable->Reopen("SELECT *  FROM HydrostaticDataTable WHERE ShipID = " + std::to_string(shipID) + " ORDER BY TMD",
                    CursorType::Keyset, LockType::BatchOptimistic);
@@ -112,8 +114,21 @@ Value clsHydrostaticData::InterpolateMCTC(const Value &draft)
 
 std::int32_t clsHydrostaticData::FindBracket(const Value &draft)
 {
-    Recordset &table = Table();
+    // A calculation asks for each of its three drafts three times.
     const std::string text = draft.SqlText();
+    const auto known = std::ranges::find(mFoundBrackets, text, &FoundBracket::draft);
+    if (known != mFoundBrackets.end()) {
+        mBracket = known->rows;
+        return known->code;
+    }
+    const std::int32_t code = SearchBracket(text);
+    mFoundBrackets.push_back({text, code, mBracket});
+    return code;
+}
+
+std::int32_t clsHydrostaticData::SearchBracket(const std::string &text)
+{
+    Recordset &table = Table();
     const std::string atOrBelow = "TMD <= " + text;
     std::optional<Bookmark> last;
     table.MoveFirst();

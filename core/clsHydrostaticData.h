@@ -6,6 +6,8 @@
 #include <array>
 #include <cstdint>
 #include <memory>
+#include <string>
+#include <vector>
 
 /// The hydrostatic table of one ship, read once at InitHDT, answered at any draft by linear interpolation.
 ///
@@ -60,8 +62,17 @@ private:
         Value LCF;
     };
 
+    using Bracket = std::array<BracketRow, 2>; ///< the rows below and above
+
+    struct FoundBracket {
+        std::string draft;
+        std::int32_t code;
+        Bracket rows;
+    };
+
     [[nodiscard]] Value InterpolateMCTC(const Value &draft);
     [[nodiscard]] std::int32_t FindBracket(const Value &draft);
+    [[nodiscard]] std::int32_t SearchBracket(const std::string &text);
     [[nodiscard]] bool FindExact(const Value &draft);
     void ReadBracketRow(BracketRow &row) const;
     void TakeInterpolated(const Value &draft);
@@ -74,5 +85,6 @@ private:
     Value mIfMCTCPlus50, mIfMCTCMinus50;
     Value mWorkingFactor = std::int16_t {0}; ///< factor of the last MCTC interpolation
     Value mWorkingIncrement = std::int16_t {0}; ///< interpolated part of the last MCTC interpolation
-    std::array<BracketRow, 3> mBracket; ///< 0 below, 1 above
+    Bracket mBracket;
+    std::vector<FoundBracket> mFoundBrackets;
 };

@@ -193,10 +193,17 @@ double Decimal::ToDouble() const
 
 std::string Decimal::Text() const
 {
+    // Wide divisions are dear: each takes as many digits as a word holds.
+    constexpr std::uint32_t kGroup = 1'000'000'000;
+    constexpr int kDigitsOfGroup = 9;
     std::string reversed;
-    WideInteger digits {mDigits};
-    for (int place = 0; !digits.IsZero() || place <= mScale; ++place) {
-        const auto digit = static_cast<char>('0' + digits.DivideBy(10));
+    WideInteger rest {mDigits};
+    std::uint32_t group = 0;
+    for (int place = 0; group != 0 || !rest.IsZero() || place <= mScale; ++place) {
+        if (place % kDigitsOfGroup == 0)
+            group = rest.DivideBy(kGroup);
+        const auto digit = static_cast<char>('0' + group % 10);
+        group /= 10;
         if (place == mScale && !reversed.empty())
             reversed.push_back('.');
         if (place >= mScale || digit != '0' || !reversed.empty())
