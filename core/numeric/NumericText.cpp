@@ -7,6 +7,7 @@
 #include <charconv>
 #include <cmath>
 #include <cstdint>
+#include <limits>
 #include <optional>
 #include <string>
 #include <system_error>
@@ -224,7 +225,9 @@ bool IsOneOrMore(std::string_view plain)
     double exponent = 0;
     if (mark != plain.size()) {
         const std::size_t start = plain[mark + 1] == '+' ? mark + 2 : mark + 1;
-        std::from_chars(plain.data() + start, plain.data() + plain.size(), exponent);
+        const auto result = std::from_chars(plain.data() + start, plain.data() + plain.size(), exponent);
+        if (result.ec == std::errc::result_out_of_range)
+            exponent = plain[start] == '-' ? std::numeric_limits<double>::lowest() : std::numeric_limits<double>::max();
     }
     const std::size_t point = std::min(plain.find('.'), mark);
     return static_cast<double>(point) - static_cast<double>(first) + exponent + (first > point ? 1 : 0) > 0;

@@ -120,6 +120,8 @@ TEST(NumericText, FormMayPassWhereTheNumberIsOutOfRange)
     }
     ExpectTaken(kPoint, {{"0e400", "0"}, {"1e-99999999999999999999", "0"}});
     EXPECT_TRUE(IsNumericText(manyDigits + "e-390", kPoint));
+    EXPECT_TRUE(IsNumericText("7e-" + std::string(400, '4'), kPoint));
+    EXPECT_FALSE(IsNumericText("7e" + std::string(400, '4'), kPoint));
     EXPECT_TRUE(IsNumericText("0." + std::string(400, '0') + "1", kPoint));
 }
 
