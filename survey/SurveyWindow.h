@@ -288,6 +288,7 @@ private:
     [[nodiscard]] bool CollectsUnseen();
     /// False where the stage is shown and the user told that it has to be calculated.
     [[nodiscard]] bool IsUpToDate(const Stage &stage);
+    [[nodiscard]] bool MayBeSaved();
     /// The survey is in the store under another ship than the one picked.
     [[nodiscard]] bool IsOfAnotherShip();
     static void TellNotCalculated();

@@ -52,7 +52,7 @@ try {
         return;
     }
     CollectDraft(ActiveStage());
-    if (!BringUpToDate() || !ValidDrafts())
+    if (!MayBeSaved())
         return;
     const std::int32_t code = SaveDraft();
     switch (code) {
@@ -79,26 +79,23 @@ try {
 
 void SurveyWindow::ShowSavedStage()
 {
-    // What was saved may be a draft to compare with.
-    if (ActiveStage() == Stage::Final)
-        InitDateTimedatacombo();
     if (ActiveStage() == Stage::Initial) {
         EnableSurveyTabs(true);
         InitVoyageIDDataCombo();
-        InitDateTimedatacombo();
     } else if (ActiveStage() == Stage::Daily) {
         ui->cmdNewDailyDraft->show();
         ui->cmdNewDailyDraft->setEnabled(true);
         InitDateDataCombo();
         InitTimeDataCombo();
-        InitDateTimedatacombo();
     }
+    // What was saved may be a draft to compare with, whatever the stage.
+    InitDateTimedatacombo();
 }
 
 bool SurveyWindow::StartsNewDaily(MsgAnswer answer)
 {
     if (answer == MsgAnswer::Yes)
-        return BringUpToDate() && ValidDrafts() && SaveBeforeNewDaily();
+        return MayBeSaved() && SaveBeforeNewDaily();
     return answer == MsgAnswer::No;
 }
 
@@ -134,7 +131,7 @@ void SurveyWindow::RNew()
         if (answer == MsgAnswer::Cancel)
             return;
         if (answer == MsgAnswer::Yes) {
-            if (!BringUpToDate() || !ValidDrafts())
+            if (!MayBeSaved())
                 return;
             const std::int32_t code = SaveDraft();
             if (code == ReturnCode::DuplicateDraft)
@@ -242,6 +239,7 @@ bool SurveyWindow::CollectsUnseen()
 
 void SurveyWindow::RClose(bool &cancel)
 {
+    // Where nothing is collected now, an earlier refusal must not hold the window.
     mQuantityRefused = false;
     CollectBeforeClosing();
     const bool anyToSave = AnyToSave();
@@ -261,7 +259,7 @@ void SurveyWindow::RClose(bool &cancel)
         return;
     }
     const bool selected = ValidSelection();
-    const bool valid = BringUpToDate() && ValidDrafts();
+    const bool valid = MayBeSaved();
     if (!selected || !valid) {
         cancel = true;
         return;

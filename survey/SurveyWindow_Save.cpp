@@ -151,6 +151,11 @@ bool SurveyWindow::IsOfAnotherShip()
         && mRsParticulars.Fields("ShipID").SqlText() != ui->dcbShip->BoundValue().SqlText();
 }
 
+bool SurveyWindow::MayBeSaved()
+{
+    return BringUpToDate() && ValidDrafts();
+}
+
 bool SurveyWindow::ValidDrafts()
 {
     for (const Stage &stage : Stage::All()) {
