@@ -160,9 +160,10 @@ void ReportPreview::FitTo(Fit fit)
     ApplyFit();
 }
 
-void ReportPreview::ForgetTold()
+void ReportPreview::Tell(const QString &text)
 {
-    mTold->hide();
+    mTold->setText(text);
+    mTold->setVisible(!text.isEmpty());
 }
 
 void ReportPreview::ApplyFit()
@@ -209,8 +210,7 @@ void ReportPreview::Print()
 {
     try {
         PrintReport(mReport);
-        mTold->setText(tr("Sent to the printer."));
-        mTold->show();
+        Tell(tr("Sent to the printer."));
     } catch (const RuntimeError &) {
         MsgBox("Error while printing the report.\n\nPlease check the default printer, or save the report as PDF.",
                MsgIcon::Critical);
@@ -228,8 +228,7 @@ void ReportPreview::SaveAsPdf()
     const std::string shown = QDir::toNativeSeparators(path).toStdString();
     try {
         SavePdf(mReport, path);
-        mTold->setText(tr("Saved as ") + QString::fromStdString(shown));
-        mTold->show();
+        Tell(tr("Saved as ") + QString::fromStdString(shown));
     } catch (const RuntimeError &error) {
         MsgBox("The report could not be saved as\n" + shown + "\n\n" + error.Description(), MsgIcon::Exclamation);
     }
@@ -270,7 +269,7 @@ void ShowReport(Report &report, QWidget *before)
     QPointer<ReportPreview> &preview = OpenPreviews()[&report];
     if (!preview)
         preview = new ReportPreview(report, before);
-    preview->ForgetTold();
+    preview->Tell({});
     preview->setWindowState(preview->windowState() & ~Qt::WindowMinimized);
     preview->show();
     preview->raise();
@@ -281,8 +280,9 @@ void ShowReport(Report &report, QWidget *before)
 
 void HideReport(const Report &report)
 {
-    if (ReportPreview *preview = OpenPreviews()[&report])
-        preview->hide();
+    const auto preview = OpenPreviews().find(&report);
+    if (preview != OpenPreviews().end() && preview->second)
+        preview->second->hide();
 }
 
 SavePathPort SetSavePathPort(SavePathPort port)

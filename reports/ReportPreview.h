@@ -28,8 +28,8 @@ public:
     void Zoom(double zoom);
     void FitTo(Fit fit);
     [[nodiscard]] double Zoom() const;
-    /// Takes away what was told of an earlier print or PDF.
-    void ForgetTold();
+    /// What became of the last print or PDF, below the page; nothing where it is empty.
+    void Tell(const QString &text);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
