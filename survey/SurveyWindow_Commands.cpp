@@ -88,8 +88,9 @@ void SurveyWindow::ShowSavedStage()
         InitDateDataCombo();
         InitTimeDataCombo();
     }
-    // What was saved may be a draft to compare with, whatever the stage.
-    InitDateTimedatacombo();
+    // The Final tab's constant is the cargo, and would go into the Daily figures.
+    if (!(ActiveStage() == Stage::Final))
+        InitDateTimedatacombo();
 }
 
 bool SurveyWindow::StartsNewDaily(MsgAnswer answer)

@@ -274,6 +274,25 @@ TEST_F(Save, AnotherShipIsSavedWithHerOwnNetDisplacements)
               "2 22543.18513 23942.30539");
 }
 
+TEST_F(Save, OnTheFinalTabItLeavesTheDailyFiguresAlone)
+{
+    StoreSurvey();
+    StoreDraft(2, "202403131405");
+    StoreDraft(1, "202403150800");
+    Open();
+    ClickTab("Daily");
+    const QStringList figures {"txtPrevLoadedCargo", "txtLastLoadedCargo", "txtTotCargoOnboard"};
+    const std::string before = Texts(figures);
+    EXPECT_EQ(before, "0 1399.12026 1399.12026");
+    ClickTab("Final");
+    FillMarks(kDailyMarks);
+    FillCell(0, "100");
+    Calculate();
+    SaveWell();
+    ClickTab("Daily");
+    EXPECT_EQ(Texts(figures), before);
+}
+
 TEST_F(Save, ASurveyStandsInTheStoreOnce)
 {
     const char *const aborted = "Save aborted.\n\nYou already have a draft with specified Ship, VoyageID, and Port.";
