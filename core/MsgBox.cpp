@@ -28,3 +28,16 @@ MsgBoxPort SetMsgBoxPort(MsgBoxPort port)
 {
     return std::exchange(Port(), std::move(port));
 }
+
+UnsaidMessages::UnsaidMessages()
+    : mShown(SetMsgBoxPort([this](const Message &message) {
+        mAny = true;
+        return message.defaultAnswer;
+    }))
+{
+}
+
+UnsaidMessages::~UnsaidMessages()
+{
+    SetMsgBoxPort(std::move(mShown));
+}

@@ -34,3 +34,19 @@ void MsgBox(std::string_view text, MsgIcon icon = MsgIcon::None, std::string_vie
 /// The port that was set before is handed back.
 using MsgBoxPort = std::function<MsgAnswer(const Message &)>;
 MsgBoxPort SetMsgBoxPort(MsgBoxPort port);
+
+/// While one lives, no box is shown: each is answered by its default and only counts.
+class UnsaidMessages
+{
+public:
+    UnsaidMessages();
+    ~UnsaidMessages();
+    UnsaidMessages(const UnsaidMessages &) = delete;
+    UnsaidMessages &operator=(const UnsaidMessages &) = delete;
+
+    [[nodiscard]] bool Any() const noexcept { return mAny; }
+
+private:
+    bool mAny = false;
+    MsgBoxPort mShown;
+};

@@ -2,6 +2,24 @@
 
 #include "core/DateTimeStamp.h"
 #include "core/MsgBox.h"
+#include "core/ReturnCode.h"
+
+clsDraft::Results::Results()
+{
+    const Value blank = Value::EmptyText();
+    for (Value *value : {&fwdMean, &midMean, &aftMean, &apparentTrim, &fwdCorrection, &midCorrection, &aftCorrection,
+                         &fwdTrueDraft, &midTrueDraft, &aftTrueDraft, &trueTrim, &trueMeanDraft, &mctcPlus50IpFactor,
+                         &mctcMinus50IpFactor, &ipFactor})
+        *value = blank;
+    tpcPort = tpcStbd = {blank, blank, blank};
+    for (auto &row : hdt)
+        row.fill(blank);
+    for (auto &row : hdtListCorr)
+        row.fill(blank);
+    for (auto &row : ipResult)
+        row.fill(blank);
+    finalResult.fill(blank);
+}
 
 clsDraft::clsDraft()
     : mDeductions(std::make_unique<Recordset>())
@@ -23,30 +41,13 @@ void clsDraft::NewDraft()
     mDSDate = DateText(now);
     mDSTime = TimeText(now);
     mFwdPort = mFwdStbd = mMidPort = mMidStbd = mAftPort = mAftStbd = blank;
-    ClearResults();
+    mResults = Results();
     mListCorrected = false;
     mComments.clear();
     InitDeductions();
     mDraftMode = 0;
     mToSave = false;
     mHasRecord = false;
-}
-
-void clsDraft::ClearResults()
-{
-    const Value blank = Value::EmptyText();
-    mFwdMean = mMidMean = mAftMean = mApparentTrim = blank;
-    mFwdCorrection = mMidCorrection = mAftCorrection = blank;
-    mFwdTrueDraft = mMidTrueDraft = mAftTrueDraft = mTrueTrim = mTrueMeanDraft = blank;
-    mMCTCPlus50IpFactor = mMCTCMinus50IpFactor = mIpFactor = blank;
-    mTPCPort = mTPCStbd = {blank, blank, blank};
-    for (auto &row : mHDT)
-        row.fill(blank);
-    for (auto &row : mHDTListCorr)
-        row.fill(blank);
-    for (auto &row : mIpResult)
-        row.fill(blank);
-    mFinalResult.fill(blank);
 }
 
 void clsDraft::SetNumber(Value &field, const Value &value)
@@ -56,7 +57,6 @@ void clsDraft::SetNumber(Value &field, const Value &value)
         return;
     field = Val2Dec(value);
     mToSave = true;
-    mChangedSinceRun = true;
 }
 
 void clsDraft::SetText(std::string &field, std::string_view text)
@@ -73,14 +73,14 @@ void clsDraft::ListCorrected(bool corrected)
         return;
     mListCorrected = corrected;
     mToSave = true;
-    mListChangedSinceRun = true;
 }
 
 void clsDraft::ShipID(const Value &shipID)
 {
     mShipID = shipID.ToLong();
-    // SetShip has told the user of a failure.
-    static_cast<void>(mShip.SetShip(mShipID));
+    // SetShip has told the user of a failure. The ship before must not be calculated with.
+    if (mShip.SetShip(mShipID) != ReturnCode::Success)
+        mShip = clsShip();
 }
 
 void clsDraft::InitDeductions()
@@ -104,16 +104,6 @@ void clsDraft::AddQuantities(Value &total)
         return;
     for (mDeductions->MoveFirst(); !mDeductions->AtEnd(); mDeductions->MoveNext())
         total = total + mDeductions->Fields("Quantity");
-}
-
-bool clsDraft::IsOutdated()
-{
-    if (NetDisplacement().IsAbsent())
-        return false;
-    Value deducted = std::int16_t {0};
-    if (mDeductions->State() == 1)
-        AddQuantities(deducted);
-    return mChangedSinceRun || mListChangedSinceRun || mShipID != mShipOfRun || !(deducted == mFinalResult[8]);
 }
 
 Value clsDraft::GetTotDeductibles()

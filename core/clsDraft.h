@@ -56,7 +56,7 @@ public:
     void AftStbd(const Value &value) { SetNumber(mAftStbd, value); }
     [[nodiscard]] bool ListCorrected() const { return mListCorrected; }
     void ListCorrected(bool corrected);
-    [[nodiscard]] const Value &NetDisplacement() const { return mFinalResult[9]; }
+    [[nodiscard]] const Value &NetDisplacement() const { return mResults.finalResult[9]; }
     [[nodiscard]] const std::string &Comments() const { return mComments; }
     void Comments(std::string_view text) { SetText(mComments, text); }
     /// "dd-MM-yyyy"
@@ -68,8 +68,6 @@ public:
     /// Something differs from what was last loaded or made new.
     [[nodiscard]] bool ToSave() const { return mToSave; }
     void ToSave(bool toSave) { mToSave = toSave; }
-    /// What was read, or the ship, has changed since the net displacement was calculated. False where there is none.
-    [[nodiscard]] bool IsOutdated();
     /// The draft was read from or written to the store.
     [[nodiscard]] bool HasRecord() const { return mHasRecord; }
     void HasRecord(bool hasRecord) { mHasRecord = hasRecord; }
@@ -78,42 +76,43 @@ public:
     /// The quantities of this draft (DraftID, ItemID, Quantity), kept in memory until SaveDraft.
     [[nodiscard]] Recordset &Deductions() { return *mDeductions; }
 
-    [[nodiscard]] const Value &FwdMean() const { return mFwdMean; }
-    [[nodiscard]] const Value &MidMean() const { return mMidMean; }
-    [[nodiscard]] const Value &AftMean() const { return mAftMean; }
+    [[nodiscard]] const Value &FwdMean() const { return mResults.fwdMean; }
+    [[nodiscard]] const Value &MidMean() const { return mResults.midMean; }
+    [[nodiscard]] const Value &AftMean() const { return mResults.aftMean; }
     [[nodiscard]] const Value &TotDeductibles() const { return mTotDeductibles; }
     /// Leaves ToSave alone; the next calculation replaces it.
     void TotDeductibles(const Value &value) { mTotDeductibles = value; }
-    [[nodiscard]] HydrostaticRows HDT() const { return mHDT; }
-    [[nodiscard]] ListCorrectionRows HDTListCorr() const { return mHDTListCorr; }
-    [[nodiscard]] InterpolatedRows IpResult() const { return mIpResult; }
-    [[nodiscard]] FinalItems FinalResult() const { return mFinalResult; }
+    [[nodiscard]] HydrostaticRows HDT() const { return mResults.hdt; }
+    [[nodiscard]] ListCorrectionRows HDTListCorr() const { return mResults.hdtListCorr; }
+    [[nodiscard]] InterpolatedRows IpResult() const { return mResults.ipResult; }
+    [[nodiscard]] FinalItems FinalResult() const { return mResults.finalResult; }
     /// Aft mean less forward mean: positive by the stern.
-    [[nodiscard]] const Value &ApparentTrim() const { return mApparentTrim; }
-    [[nodiscard]] const Value &FwdCorrection() const { return mFwdCorrection; }
-    [[nodiscard]] const Value &MidCorrection() const { return mMidCorrection; }
-    [[nodiscard]] const Value &AftCorrection() const { return mAftCorrection; }
-    [[nodiscard]] const Value &FwdTrueDraft() const { return mFwdTrueDraft; }
-    [[nodiscard]] const Value &MidTrueDraft() const { return mMidTrueDraft; }
-    [[nodiscard]] const Value &AftTrueDraft() const { return mAftTrueDraft; }
-    [[nodiscard]] const Value &TrueTrim() const { return mTrueTrim; }
+    [[nodiscard]] const Value &ApparentTrim() const { return mResults.apparentTrim; }
+    [[nodiscard]] const Value &FwdCorrection() const { return mResults.fwdCorrection; }
+    [[nodiscard]] const Value &MidCorrection() const { return mResults.midCorrection; }
+    [[nodiscard]] const Value &AftCorrection() const { return mResults.aftCorrection; }
+    [[nodiscard]] const Value &FwdTrueDraft() const { return mResults.fwdTrueDraft; }
+    [[nodiscard]] const Value &MidTrueDraft() const { return mResults.midTrueDraft; }
+    [[nodiscard]] const Value &AftTrueDraft() const { return mResults.aftTrueDraft; }
+    [[nodiscard]] const Value &TrueTrim() const { return mResults.trueTrim; }
     /// Mean of means by quarter-mean weighting: (forward + aft + 6 x midships) / 8, not rounded.
-    [[nodiscard]] const Value &TrueMeanDraft() const { return mTrueMeanDraft; }
-    [[nodiscard]] const Value &IpFactor() const { return mIpFactor; }
-    [[nodiscard]] const Value &MCTCPlus50IpFactor() const { return mMCTCPlus50IpFactor; }
-    [[nodiscard]] const Value &MCTCMinus50IpFactor() const { return mMCTCMinus50IpFactor; }
+    [[nodiscard]] const Value &TrueMeanDraft() const { return mResults.trueMeanDraft; }
+    [[nodiscard]] const Value &IpFactor() const { return mResults.ipFactor; }
+    [[nodiscard]] const Value &MCTCPlus50IpFactor() const { return mResults.mctcPlus50IpFactor; }
+    [[nodiscard]] const Value &MCTCMinus50IpFactor() const { return mResults.mctcMinus50IpFactor; }
     /// 0: not in the store, SaveDraft inserts. 1: loaded from the store, SaveDraft updates, DeleteDraft acts.
     [[nodiscard]] Value DraftMode() const { return mDraftMode; }
     /// Overflow (6) for a number that 16 bits do not hold.
     void DraftMode(const Value &mode) { mDraftMode = mode.ToInteger(); }
-    /// Binds the draft to a ship.
+    /// Binds the draft to a ship. Where she cannot be read a message tells so; the draft is then without a ship, and a
+    /// calculation fails.
     void ShipID(const Value &shipID);
-    [[nodiscard]] const Value &IpFactorTPCP() const { return mTPCPort.factor; }
-    [[nodiscard]] const Value &IpValueTPCP() const { return mTPCPort.value; }
-    [[nodiscard]] const Value &ResultantTPCP() const { return mTPCPort.resultant; }
-    [[nodiscard]] const Value &IpFactorTPCS() const { return mTPCStbd.factor; }
-    [[nodiscard]] const Value &IpValueTPCS() const { return mTPCStbd.value; }
-    [[nodiscard]] const Value &ResultantTPCS() const { return mTPCStbd.resultant; }
+    [[nodiscard]] const Value &IpFactorTPCP() const { return mResults.tpcPort.factor; }
+    [[nodiscard]] const Value &IpValueTPCP() const { return mResults.tpcPort.value; }
+    [[nodiscard]] const Value &ResultantTPCP() const { return mResults.tpcPort.resultant; }
+    [[nodiscard]] const Value &IpFactorTPCS() const { return mResults.tpcStbd.factor; }
+    [[nodiscard]] const Value &IpValueTPCS() const { return mResults.tpcStbd.value; }
+    [[nodiscard]] const Value &ResultantTPCS() const { return mResults.tpcStbd.resultant; }
 
     /// A blank draft of the same type and ship, dated now. TotDeductibles is left as it was.
     void NewDraft();
@@ -129,6 +128,9 @@ public:
     /// Mode 0 (or any other): the full run. Mode 1: from the list correction on, with the table values of the last
     /// full run. Calculated, or NotCalculated when a message has told why.
     [[nodiscard]] std::int32_t Calculate(std::int16_t mode);
+    /// The full run of a draft that has a net displacement, with no message whatever happens. Where it gives no new one
+    /// it is false, and the draft is as it was.
+    [[nodiscard]] bool Recalculate();
 
 private:
     /// TPC at one midship mark.
@@ -137,10 +139,23 @@ private:
         Value value;
         Value resultant;
     };
+    /// All that a calculation gives; empty text before the first.
+    struct Results {
+        Results();
+
+        Value fwdMean, midMean, aftMean, apparentTrim;
+        Value fwdCorrection, midCorrection, aftCorrection;
+        Value fwdTrueDraft, midTrueDraft, aftTrueDraft, trueTrim, trueMeanDraft;
+        MarkTPC tpcPort, tpcStbd;
+        Value mctcPlus50IpFactor, mctcMinus50IpFactor, ipFactor;
+        HydrostaticRows hdt;
+        ListCorrectionRows hdtListCorr;
+        InterpolatedRows ipResult;
+        FinalItems finalResult;
+    };
 
     void SetNumber(Value &field, const Value &value);
     void SetText(std::string &field, std::string_view text);
-    void ClearResults();
     void InitDeductions();
     /// The quantities of a draft in the store; none of the draft before stay where they cannot be had.
     void OpenDeductions(std::int32_t draftID);
@@ -172,9 +187,6 @@ private:
     std::int16_t mDraftMode = 0;
     bool mToSave = false;
     bool mHasRecord = false;
-    bool mChangedSinceRun = false; ///< marks or density, since the last full run
-    bool mListChangedSinceRun = false;
-    std::int32_t mShipOfRun = 0;
 
     Value mSpecificGravity;
     Value mFwdPort, mFwdStbd, mMidPort, mMidStbd, mAftPort, mAftStbd;
@@ -182,15 +194,7 @@ private:
     std::string mDSDate, mDSTime, mComments;
     Value mTotDeductibles;
 
-    Value mFwdMean, mMidMean, mAftMean, mApparentTrim;
-    Value mFwdCorrection, mMidCorrection, mAftCorrection;
-    Value mFwdTrueDraft, mMidTrueDraft, mAftTrueDraft, mTrueTrim, mTrueMeanDraft;
-    MarkTPC mTPCPort, mTPCStbd;
-    Value mMCTCPlus50IpFactor, mMCTCMinus50IpFactor, mIpFactor;
-    HydrostaticRows mHDT;
-    ListCorrectionRows mHDTListCorr;
-    InterpolatedRows mIpResult;
-    FinalItems mFinalResult;
+    Results mResults;
 
     clsShip mShip;
     std::unique_ptr<clsHydrostaticData> mHydrostatics;

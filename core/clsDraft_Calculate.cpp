@@ -48,12 +48,12 @@ std::int32_t clsDraft::Calculate(std::int16_t mode)
                        MsgIcon::Exclamation, "Keelmark10009");
                 return ReturnCode::NotCalculated;
             }
-            if (mTrueMeanDraft > maxTMD) {
+            if (mResults.trueMeanDraft > maxTMD) {
                 TellInvalidInput(kAboveTable);
                 return ReturnCode::NotCalculated;
             }
             // A blank draft, all marks at 0, passes through here.
-            if (Val2Dec(mTrueMeanDraft) == Number(0))
+            if (Val2Dec(mResults.trueMeanDraft) == Number(0))
                 return ReturnCode::Calculated;
             if (!CalculateAtTrueMeanDraft())
                 return ReturnCode::NotCalculated;
@@ -62,15 +62,9 @@ std::int32_t clsDraft::Calculate(std::int16_t mode)
             if (CalculateListCorr() == ReturnCode::ListCorrectionFailed)
                 return ReturnCode::NotCalculated;
         } else {
-            mFinalResult[4] = Number(0);
+            mResults.finalResult[4] = Number(0);
         }
         CalculateNetDisplacement();
-        mListChangedSinceRun = false;
-        // The short run goes by the drafts of the last full one.
-        if (mode != 1) {
-            mChangedSinceRun = false;
-            mShipOfRun = mShipID;
-        }
     } catch (const RuntimeError &) {
         // The caller goes on as if all had gone well, and is meant to: the results stand as far as they came.
         MsgBox("clsDraft::Calculate");
@@ -78,23 +72,42 @@ std::int32_t clsDraft::Calculate(std::int16_t mode)
     return ReturnCode::Calculated;
 }
 
+bool clsDraft::Recalculate()
+{
+    if (NetDisplacement().IsAbsent())
+        return false;
+    const UnsaidMessages quiet;
+    const Results before = mResults;
+    const Value deducted = mTotDeductibles;
+    std::unique_ptr<clsHydrostaticData> table = std::move(mHydrostatics);
+    // Marks at 0 end a run without a figure.
+    mResults.finalResult[9] = Value::EmptyText();
+    if (Calculate(0) == ReturnCode::Calculated && !quiet.Any() && !NetDisplacement().IsAbsent())
+        return true;
+    mResults = before;
+    mTotDeductibles = deducted;
+    mHydrostatics = std::move(table);
+    return false;
+}
+
 void clsDraft::CalculateDrafts()
 {
-    mFwdMean = (mFwdStbd + mFwdPort) / Number(2);
-    mMidMean = (mMidStbd + mMidPort) / Number(2);
-    mAftMean = (mAftStbd + mAftPort) / Number(2);
-    mApparentTrim = mAftMean - mFwdMean;
+    mResults.fwdMean = (mFwdStbd + mFwdPort) / Number(2);
+    mResults.midMean = (mMidStbd + mMidPort) / Number(2);
+    mResults.aftMean = (mAftStbd + mAftPort) / Number(2);
+    mResults.apparentTrim = mResults.aftMean - mResults.fwdMean;
 
     const Value distance = mShip.GetDistBetDraftMarks();
-    mFwdCorrection = (mShip.FwdX() * mApparentTrim) / distance;
-    mMidCorrection = (mShip.MidX() * mApparentTrim) / distance;
-    mAftCorrection = (mShip.AftX() * mApparentTrim) / distance;
+    mResults.fwdCorrection = (mShip.FwdX() * mResults.apparentTrim) / distance;
+    mResults.midCorrection = (mShip.MidX() * mResults.apparentTrim) / distance;
+    mResults.aftCorrection = (mShip.AftX() * mResults.apparentTrim) / distance;
 
-    mFwdTrueDraft = mFwdCorrection + mFwdMean;
-    mMidTrueDraft = mMidCorrection + mMidMean;
-    mAftTrueDraft = mAftCorrection + mAftMean;
-    mTrueTrim = mAftTrueDraft - mFwdTrueDraft;
-    mTrueMeanDraft = ((mAftTrueDraft + mFwdTrueDraft) + mMidTrueDraft * Number(6)) / Number(8);
+    mResults.fwdTrueDraft = mResults.fwdCorrection + mResults.fwdMean;
+    mResults.midTrueDraft = mResults.midCorrection + mResults.midMean;
+    mResults.aftTrueDraft = mResults.aftCorrection + mResults.aftMean;
+    mResults.trueTrim = mResults.aftTrueDraft - mResults.fwdTrueDraft;
+    mResults.trueMeanDraft
+        = ((mResults.aftTrueDraft + mResults.fwdTrueDraft) + mResults.midTrueDraft * Number(6)) / Number(8);
 }
 
 bool clsDraft::CalculateAtTrueMeanDraft()
@@ -103,29 +116,30 @@ bool clsDraft::CalculateAtTrueMeanDraft()
         return false;
 
     const clsHydrostaticData &table = *mHydrostatics;
-    mIpFactor = table.IpFactor();
-    mMCTCPlus50IpFactor = table.IfMCTCPlus50();
-    mMCTCMinus50IpFactor = table.IfMCTCMinus50();
-    mIpResult[0] = {Round(table.IpDisplacement(), 3), Round(table.IpTPC(), 3), Round(table.IpLCF(), 3),
-                    Round(table.IpMCTCPlus50(), 3), Round(table.IpMCTCMinus50(), 3)};
-    mIpResult[1] = {Round(table.Displacement(), 5), Round(table.TPC(), 3), Round(table.LCF(), 3),
-                    Round(table.MCTCPlus50(), 3), Round(table.MCTCMinus50(), 3)};
+    mResults.ipFactor = table.IpFactor();
+    mResults.mctcPlus50IpFactor = table.IfMCTCPlus50();
+    mResults.mctcMinus50IpFactor = table.IfMCTCMinus50();
+    mResults.ipResult[0] = {Round(table.IpDisplacement(), 3), Round(table.IpTPC(), 3), Round(table.IpLCF(), 3),
+                            Round(table.IpMCTCPlus50(), 3), Round(table.IpMCTCMinus50(), 3)};
+    mResults.ipResult[1] = {Round(table.Displacement(), 5), Round(table.TPC(), 3), Round(table.LCF(), 3),
+                            Round(table.MCTCPlus50(), 3), Round(table.MCTCMinus50(), 3)};
 
-    const Value trim = Val2Dec(mTrueTrim);
-    mFinalResult[0] = Round(table.Displacement(), 5);
+    const Value trim = Val2Dec(mResults.trueTrim);
+    mResults.finalResult[0] = Round(table.Displacement(), 5);
     // First trim correction (layer correction): 100 x trim x LCF x TPC / LBP.
-    mFinalResult[1] = (Number(100) * (trim * (table.LCF() * table.TPC()))) / mShip.LBP();
+    mResults.finalResult[1] = (Number(100) * (trim * (table.LCF() * table.TPC()))) / mShip.LBP();
     // Second trim correction (Nemoto): 50 x trim squared x dMCTC / LBP.
-    mFinalResult[2]
-        = (Number(50) * ((table.MCTCPlus50() - table.MCTCMinus50()) * (mTrueTrim * mTrueTrim))) / mShip.LBP();
-    mFinalResult[3] = mFinalResult[2] + mFinalResult[1];
+    mResults.finalResult[2]
+        = (Number(50) * ((table.MCTCPlus50() - table.MCTCMinus50()) * (mResults.trueTrim * mResults.trueTrim)))
+        / mShip.LBP();
+    mResults.finalResult[3] = mResults.finalResult[2] + mResults.finalResult[1];
     return true;
 }
 
 bool clsDraft::TakeBoundRow(std::int16_t row)
 {
     const bool below = row == 0;
-    const std::int32_t code = mHydrostatics->getBound(mTrueMeanDraft, row);
+    const std::int32_t code = mHydrostatics->getBound(mResults.trueMeanDraft, row);
     if (code == ReturnCode::Success) {
         FillBoundRow(static_cast<std::size_t>(row));
         return true;
@@ -143,7 +157,7 @@ bool clsDraft::TakeBoundRow(std::int16_t row)
 
 bool clsDraft::TakeResultantVals()
 {
-    const std::int32_t code = mHydrostatics->getResultantVals(mTrueMeanDraft);
+    const std::int32_t code = mHydrostatics->getResultantVals(mResults.trueMeanDraft);
     if (code == ReturnCode::DraftAboveTable)
         MsgBox(kAboveTable, MsgIcon::Critical);
     else if (code == ReturnCode::DraftBelowTable)
@@ -154,19 +168,20 @@ bool clsDraft::TakeResultantVals()
 void clsDraft::FillBoundRow(std::size_t row)
 {
     const clsHydrostaticData &table = *mHydrostatics;
-    mHDT[row] = {Round(table.TMD(), 3), Round(table.Displacement(), 3), Round(table.TPC(), 3),
-                 Round(table.LCF(), 3), Round(table.MCTCPlus50(), 3),   Round(table.MCTCMinus50(), 3)};
-    for (std::size_t column = 0; row == 1 && column < mHDT[2].size(); ++column)
-        mHDT[2][column] = mHDT[1][column] - mHDT[0][column];
+    mResults.hdt[row] = {Round(table.TMD(), 3), Round(table.Displacement(), 3), Round(table.TPC(), 3),
+                         Round(table.LCF(), 3), Round(table.MCTCPlus50(), 3),   Round(table.MCTCMinus50(), 3)};
+    for (std::size_t column = 0; row == 1 && column < mResults.hdt[2].size(); ++column)
+        mResults.hdt[2][column] = mResults.hdt[1][column] - mResults.hdt[0][column];
 }
 
 void clsDraft::CalculateNetDisplacement()
 {
     // The displacement is taken with five places here, the corrections at full precision.
-    mFinalResult[5] = mFinalResult[4] + (mFinalResult[3] + ZeroIfEmpty(mIpResult[1][0]));
-    mFinalResult[7] = (mSpecificGravity * ZeroIfEmpty(mFinalResult[5])) / Value(kSeaWaterDensity);
-    mFinalResult[6] = ZeroIfEmpty(mFinalResult[7]) - mFinalResult[5];
-    mFinalResult[8] = GetTotDeductibles();
-    mFinalResult[9] = Round(ZeroIfEmpty(mFinalResult[7]) - mTotDeductibles, 5);
-    mFinalResult[10] = mShip.LightShip();
+    mResults.finalResult[5]
+        = mResults.finalResult[4] + (mResults.finalResult[3] + ZeroIfEmpty(mResults.ipResult[1][0]));
+    mResults.finalResult[7] = (mSpecificGravity * ZeroIfEmpty(mResults.finalResult[5])) / Value(kSeaWaterDensity);
+    mResults.finalResult[6] = ZeroIfEmpty(mResults.finalResult[7]) - mResults.finalResult[5];
+    mResults.finalResult[8] = GetTotDeductibles();
+    mResults.finalResult[9] = Round(ZeroIfEmpty(mResults.finalResult[7]) - mTotDeductibles, 5);
+    mResults.finalResult[10] = mShip.LightShip();
 }

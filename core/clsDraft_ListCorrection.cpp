@@ -38,10 +38,10 @@ try {
         || !FillListCorrectionRow(table, mMidPort, kAbove, 0, kPortAbove)
         || !FillListCorrectionRow(table, mMidStbd, kAbove, 2, kStbdAbove))
         return ReturnCode::ListCorrectionFailed;
-    for (std::size_t column = 0; column < mHDTListCorr[2].size(); ++column)
-        mHDTListCorr[2][column] = Round(mHDTListCorr[1][column] - mHDTListCorr[0][column], 3);
+    for (std::size_t column = 0; column < mResults.hdtListCorr[2].size(); ++column)
+        mResults.hdtListCorr[2][column] = Round(mResults.hdtListCorr[1][column] - mResults.hdtListCorr[0][column], 3);
 
-    for (const auto &[mark, tpc] : {std::pair(&mMidPort, &mTPCPort), std::pair(&mMidStbd, &mTPCStbd)}) {
+    for (const auto &[mark, tpc] : {std::pair(&mMidPort, &mResults.tpcPort), std::pair(&mMidStbd, &mResults.tpcStbd)}) {
         const std::int32_t code = table.getResultantVals(*mark);
         if (code == ReturnCode::DraftAboveTable)
             MsgBox(kCalculatedAbove, MsgIcon::Critical);
@@ -54,8 +54,8 @@ try {
     }
 
     // List correction: 6 x difference of the midship marks x difference of TPC; always added.
-    mFinalResult[4]
-        = Value(std::int16_t {6}) * (Abs(mMidPort - mMidStbd) * Abs(mTPCPort.resultant - mTPCStbd.resultant));
+    mResults.finalResult[4] = Value(std::int16_t {6})
+        * (Abs(mMidPort - mMidStbd) * Abs(mResults.tpcPort.resultant - mResults.tpcStbd.resultant));
     return ReturnCode::Calculated;
 } catch (const RuntimeError &) {
     // Success on purpose: the calculation goes on.
@@ -68,7 +68,7 @@ bool clsDraft::FillListCorrectionRow(clsHydrostaticData &table, const Value &mar
 {
     const std::int32_t code = table.getBound(mark, row);
     if (HasRow(code)) {
-        auto &cells = mHDTListCorr[static_cast<std::size_t>(row)];
+        auto &cells = mResults.hdtListCorr[static_cast<std::size_t>(row)];
         cells[column] = Round(table.TMD(), 3);
         cells[column + 1] = Round(table.TPC(), 3);
         return true;

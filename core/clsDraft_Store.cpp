@@ -104,7 +104,7 @@ try {
     mDraftMode = 1;
     mHasRecord = true;
     // Where it cannot be calculated, nothing of the draft before may stand beside its marks.
-    ClearResults();
+    mResults = Results();
     static_cast<void>(Calculate(0));
     return ReturnCode::Success;
 } catch (const RuntimeError &) {
