@@ -112,7 +112,7 @@ void SurveyWindow::ConnectEvents()
 
     connect(ui->fgrdDeduction, &Grid::EnterCell, this, &SurveyWindow::fgrdDeduction_EnterCell);
     connect(ui->fgrdDeduction, &Grid::LeaveCell, this, &SurveyWindow::fgrdDeduction_LeaveCell);
-    txtGridTextbox->OnKeyDown([this](const QKeyEvent &event) { return txtGridTextbox_KeyDown(event.key()); });
+    txtGridTextbox->OnKeyDown([this](const QKeyEvent &event) { return txtGridTextbox_KeyDown(event); });
 
     OnValidate(ui->dcbShip, [this](bool &cancel) { dcbShip_Validate(cancel); });
     OnValidate(ui->txtDensity, [this](bool &cancel) { txtDensity_Validate(cancel); });

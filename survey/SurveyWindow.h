@@ -119,6 +119,8 @@ protected:
     virtual void BlankDensityLeft();
     /// A draft with quantities is about to be shown on the blank grid.
     virtual void PrepareQuantities() { }
+    /// The survey's row was found but its drafts cannot be brought up.
+    virtual void LeavePartlyFilled();
     /// The Daily tab is about to show its draft.
     virtual void BeforeDailyShown() { }
     virtual void ReportTabFailure();
@@ -158,8 +160,6 @@ protected:
     bool Calculate();
     [[nodiscard]] bool ValidCalcInput();
     virtual void LoadDraft(const Stage &stage);
-    /// The figures that a calculation gives. False where the rest of the draft is not to be shown.
-    [[nodiscard]] virtual bool ShowResults(const Stage &stage, clsDraft &draft);
     void InitializeAllGrids(bool rebuild);
     void ShowFinalCaptions(const ResultCaptions &captions);
     void ShowFinalCell(int row, const Value &value);
@@ -202,10 +202,9 @@ protected:
 
     // Saving
     [[nodiscard]] bool ValidDrafts();
-    /// Before a save: a net displacement in the store belongs to the marks and the ship beside it. Calculates the
-    /// draft of the active stage where its figures were changed after their last calculation. False where a message
-    /// has told why that cannot be, or that another stage has to be calculated first.
-    [[nodiscard]] bool BringUpToDate();
+    /// Before a save: a net displacement in the store belongs to the marks beside it. Works out anew, without a word,
+    /// each draft to be saved that has one; where that cannot be, the draft stays as it was.
+    void WorkOutDrafts();
     [[nodiscard]] bool AnyToSave() const;
     void NewDailyDraft();
     void cmdNewDailyDraft_Click();
@@ -265,15 +264,13 @@ private:
     void FetchSurvey();
     void GetDailyDraft();
     void ShowFoundSurvey();
-    /// The survey's row was found but its drafts cannot be brought up.
-    void DraftsNotBroughtUp();
     void TellNoSurvey();
 
     void fgrdDeduction_EnterCell();
     void fgrdDeduction_LeaveCell();
     void txtGridTextbox_Validate(bool &cancel);
     void txtGridTextbox_KeyPress();
-    bool txtGridTextbox_KeyDown(int key);
+    bool txtGridTextbox_KeyDown(const QKeyEvent &event);
     void MoveDeductionRow(int step);
     void ClearDeductions();
     void CollectDeductions(const Stage &stage);
@@ -283,22 +280,13 @@ private:
     void ForgetUnsavedRow();
     [[nodiscard]] std::int32_t WriteDrafts();
     [[nodiscard]] std::int32_t GetNewRecordID();
-    /// Before a header is saved at closing: reads what the closing question did not ask for. False where a message has
-    /// told that there is no draft to go with it.
-    [[nodiscard]] bool CollectsUnseen();
-    /// False where the stage is shown and the user told that it has to be calculated.
-    [[nodiscard]] bool IsUpToDate(const Stage &stage);
-    [[nodiscard]] bool MayBeSaved();
-    /// The survey is in the store under another ship than the one picked.
-    [[nodiscard]] bool IsOfAnotherShip();
-    static void TellNotCalculated();
     void DeleteInitial();
     void DeleteDaily();
     void DeleteFinal();
     void ShowSavedStage();
 
     int mTab = 0;
-    bool mQuantityRefused = false; ///< at the last collection, so that no cell of the grid was read
+    bool mRefusalBlanked = false; ///< the editor is blank from a refusal and not by the user
     bool mQuantitiesWithheld = false; ///< blank cells are not shown quantities, and no zeros
     FloatingEditor *txtGridTextbox = nullptr;
 };

@@ -40,19 +40,15 @@ void TellDeleteFailure(std::string_view text, std::string_view caption)
 }
 } // namespace
 
-void SurveyWindow::TellNotCalculated()
-{
-    TellExclamation("Incomplete data...!\n\nPlease enter all the details and press calculate before saving.");
-}
-
 void SurveyWindow::RSave()
 try {
     if (ui->fgrdFinalResult->Cell(9, 1).isEmpty()) {
-        TellNotCalculated();
+        TellExclamation("Incomplete data...!\n\nPlease enter all the details and press calculate before saving.");
         return;
     }
     CollectDraft(ActiveStage());
-    if (!MayBeSaved())
+    WorkOutDrafts();
+    if (!ValidDrafts())
         return;
     const std::int32_t code = SaveDraft();
     switch (code) {
@@ -82,22 +78,22 @@ void SurveyWindow::ShowSavedStage()
     if (ActiveStage() == Stage::Initial) {
         EnableSurveyTabs(true);
         InitVoyageIDDataCombo();
+        InitDateTimedatacombo();
     } else if (ActiveStage() == Stage::Daily) {
         ui->cmdNewDailyDraft->show();
         ui->cmdNewDailyDraft->setEnabled(true);
         InitDateDataCombo();
         InitTimeDataCombo();
-    }
-    // The Final tab's constant is the cargo, and would go into the Daily figures.
-    if (!(ActiveStage() == Stage::Final))
         InitDateTimedatacombo();
+    }
 }
 
 bool SurveyWindow::StartsNewDaily(MsgAnswer answer)
 {
-    if (answer == MsgAnswer::Yes)
-        return MayBeSaved() && SaveBeforeNewDaily();
-    return answer == MsgAnswer::No;
+    if (answer != MsgAnswer::Yes)
+        return answer == MsgAnswer::No;
+    WorkOutDrafts();
+    return ValidDrafts() && SaveBeforeNewDaily();
 }
 
 bool SurveyWindow::SaveBeforeNewDaily()
@@ -132,7 +128,8 @@ void SurveyWindow::RNew()
         if (answer == MsgAnswer::Cancel)
             return;
         if (answer == MsgAnswer::Yes) {
-            if (!MayBeSaved())
+            WorkOutDrafts();
+            if (!ValidDrafts())
                 return;
             const std::int32_t code = SaveDraft();
             if (code == ReturnCode::DuplicateDraft)
@@ -223,44 +220,23 @@ void SurveyWindow::CollectBeforeClosing()
     CollectDraft(ActiveStage());
 }
 
-bool SurveyWindow::CollectsUnseen()
-{
-    try {
-        CollectDraft(ActiveStage());
-    } catch (const RuntimeError &) {
-        TellNotCalculated();
-        return false;
-    }
-    // A survey without an Initial draft could neither be fetched nor deleted.
-    if (mMode != 0 || mInitDraft.IsThere())
-        return true;
-    TellNotCalculated();
-    return false;
-}
-
 void SurveyWindow::RClose(bool &cancel)
 {
-    // Where nothing is collected now, an earlier refusal must not hold the window.
-    mQuantityRefused = false;
+    cancel = false;
     CollectBeforeClosing();
     const bool anyToSave = AnyToSave();
-    // A second collection would find the refused quantity blank.
-    if (anyToSave && !mQuantityRefused)
-        CollectDraft(ActiveStage());
-    cancel = mQuantityRefused;
-    if (cancel || (!mHeaderDirty && !anyToSave))
+    if (!mHeaderDirty && !anyToSave)
         return;
+    if (anyToSave)
+        CollectDraft(ActiveStage());
     const MsgAnswer answer = AskToSave("Save changes to the draft/s", MsgIcon::Question);
     if (answer != MsgAnswer::Yes) {
         cancel = answer != MsgAnswer::No;
         return;
     }
-    if (!anyToSave && !CollectsUnseen()) {
-        cancel = true;
-        return;
-    }
     const bool selected = ValidSelection();
-    const bool valid = MayBeSaved();
+    WorkOutDrafts();
+    const bool valid = ValidDrafts();
     if (!selected || !valid) {
         cancel = true;
         return;

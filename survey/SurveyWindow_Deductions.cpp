@@ -4,6 +4,8 @@
 
 #include "frame/controls/FloatingEditor.h"
 
+#include <QKeyEvent>
+
 namespace
 {
 constexpr int kQuantityColumn = 1;
@@ -36,6 +38,10 @@ void SurveyWindow::txtGridTextbox_Validate(bool &cancel)
 try {
     Grid &grid = *ui->fgrdDeduction;
     const int row = grid.CurrentRow();
+    // Blank from a refusal is not cleared: the cell keeps its quantity.
+    if (mRefusalBlanked && txtGridTextbox->text().isEmpty())
+        txtGridTextbox->setText(grid.Cell(row, kQuantityColumn));
+    mRefusalBlanked = false;
     const QString text = txtGridTextbox->text().trimmed();
     if (text == grid.Cell(row, kQuantityColumn))
         return;
@@ -44,8 +50,10 @@ try {
         grid.SetCell(row, kQuantityColumn, QString());
         return;
     }
-    if (!TakeNumber(*txtGridTextbox, RuleOf(txtGridTextbox->objectName()), cancel))
+    if (!TakeNumber(*txtGridTextbox, RuleOf(txtGridTextbox->objectName()), cancel)) {
+        mRefusalBlanked = true;
         return;
+    }
     grid.SetCell(row, kQuantityColumn, txtGridTextbox->text());
     DraftOf(ActiveStage()).ToSave(true);
 } catch (const RuntimeError &) {
@@ -65,10 +73,15 @@ void SurveyWindow::txtGridTextbox_KeyPress()
         SendTab();
 }
 
-bool SurveyWindow::txtGridTextbox_KeyDown(int key)
+bool SurveyWindow::txtGridTextbox_KeyDown(const QKeyEvent &event)
 {
-    if (key != Qt::Key_Up && key != Qt::Key_Down)
+    const int key = event.key();
+    if (key != Qt::Key_Up && key != Qt::Key_Down) {
+        const bool isCommand = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier);
+        if (!event.text().isEmpty() && !isCommand)
+            mRefusalBlanked = false;
         return false;
+    }
     bool cancel = false;
     txtGridTextbox_Validate(cancel);
     if (!cancel)
@@ -86,6 +99,7 @@ void SurveyWindow::MoveDeductionRow(int step)
 
 void SurveyWindow::ClearDeductions()
 {
+    mRefusalBlanked = false;
     Grid &grid = *ui->fgrdDeduction;
     for (int row = 0; row < grid.rowCount(); ++row)
         grid.SetCell(row, kQuantityColumn, QString());
@@ -124,9 +138,9 @@ void SurveyWindow::ShowDeductions(Recordset &deductions)
 
 void SurveyWindow::CollectDeductions(const Stage &stage)
 {
-    mQuantityRefused = false;
-    txtGridTextbox_Validate(mQuantityRefused);
-    if (mQuantityRefused)
+    bool refused = false;
+    txtGridTextbox_Validate(refused);
+    if (refused)
         return;
     Recordset &deductions = DraftOf(stage).Deductions();
     if (mRsItems.State() != 1 || deductions.State() != 1)

@@ -252,10 +252,11 @@ void SurveyWindow::ShowFoundSurvey()
     ui->txtCargo->home(false);
     EnableSurveyTabs(true);
     mRecordID = mRsParticulars.Fields("RecordID").ToLong();
+    mMode = 1;
 
     const std::int32_t code = mInitDraft.GetDraft(mRecordID, "", "");
     if (code != ReturnCode::Success) {
-        DraftsNotBroughtUp();
+        LeavePartlyFilled();
         if (code != ReturnCode::NoSuchDraft)
             MsgBox("An internal error has occured.");
         return;
@@ -263,27 +264,23 @@ void SurveyWindow::ShowFoundSurvey()
     for (clsDraft *draft : {&mDailyDraft, &mFinalDraft}) {
         const std::int32_t laterCode = draft->GetDraft(mRecordID, "", "");
         if (laterCode != ReturnCode::Success && laterCode != ReturnCode::NoSuchDraft) {
-            DraftsNotBroughtUp();
+            LeavePartlyFilled();
             return;
         }
     }
     SendMask("111111111");
     mHeaderDirty = false;
-    mMode = 1;
     LoadDraft(Stage::Initial);
     InitDateTimedatacombo();
     ui->dcbDate->SetText(QString());
     InitDateDataCombo();
 }
 
-void SurveyWindow::DraftsNotBroughtUp()
+void SurveyWindow::LeavePartlyFilled()
 {
-    // What still stands on the screen belongs to the survey before. Nothing of it may be saved under this one.
-    NewDraft();
-    ClearTextBoxes();
-    EnableSurveyTabs(false);
-    // A save now tries a new survey, and is told that there is one of this ship, voyage and port.
-    mHeaderDirty = true;
+    // The drafts of the survey before must not be written over under this one.
+    for (const Stage &stage : Stage::All())
+        DraftOf(stage).NewDraft();
 }
 
 void SurveyWindow::TellNoSurvey()

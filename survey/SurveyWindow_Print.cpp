@@ -14,7 +14,14 @@ constexpr std::string_view kPrintFailure = "Error while printing the report.\n\n
 /// "Name, Country" of a port by its key. NoCurrentRow where the recordset has none of that key.
 std::string PortText(Recordset &ports, const Value &portID)
 {
-    ports.Find("PortID = " + portID.SqlText(), 0, Recordset::kSearchForward, Recordset::kBookmarkFirst);
+    const auto find
+        = [&] { ports.Find("PortID = " + portID.SqlText(), 0, Recordset::kSearchForward, Recordset::kBookmarkFirst); };
+    find();
+    // One that was added since the list of ports was filled.
+    if (ports.AtEnd()) {
+        ports.Requery();
+        find();
+    }
     const Value country = ports.Fields("Country");
     return ports.Fields("PortName").Text() + ", " + (country.IsNull() ? std::string() : country.Text());
 }
@@ -99,9 +106,6 @@ try {
         TellExclamation(blnShowPreview ? "No valid draft for preview." : "No valid draft for printing.");
         return;
     }
-    for (const Stage &stage : {Stage::Initial, Stage::Final})
-        if (!(stage == ActiveStage()) && !IsUpToDate(stage))
-            return;
     FillReport(Reported());
     if (blnShowPreview) {
         ShowReport(OwnReport(), window());

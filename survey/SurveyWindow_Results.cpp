@@ -35,8 +35,6 @@ bool SurveyWindow::Calculate()
         return false;
     const Stage stage = ActiveStage();
     CollectDraft(stage);
-    if (mQuantityRefused)
-        return false;
     if (DraftOf(stage).Calculate(kFullRun) == ReturnCode::NotCalculated) {
         ClearReadOnly();
         return false;
@@ -89,20 +87,16 @@ void SurveyWindow::LoadDraft(const Stage &stage)
     SetListCorrection(stage, draft.ListCorrected());
     mNoEvents = false;
     ui->txtComments->setPlainText(QString::fromStdString(draft.Comments()));
-    if (ShowResults(stage, draft))
-        ShowDeductions(draft.Deductions());
-}
-
-bool SurveyWindow::ShowResults(const Stage &stage, clsDraft &draft)
-{
     ShowDrafts(draft);
-    if (ui->txtTrueMeanDraft->text().isEmpty())
-        return true;
-    ShowHydrostatics(draft);
-    if (ListCorrectionOf(stage).isChecked())
-        ShowListCorrection(draft);
-    ShowFinalResult(draft);
-    return ShowStageResults(stage, draft);
+    if (!ui->txtTrueMeanDraft->text().isEmpty()) {
+        ShowHydrostatics(draft);
+        if (ListCorrectionOf(stage).isChecked())
+            ShowListCorrection(draft);
+        ShowFinalResult(draft);
+        if (!ShowStageResults(stage, draft))
+            return;
+    }
+    ShowDeductions(draft.Deductions());
 }
 
 void SurveyWindow::ShowEntries(clsDraft &draft)

@@ -110,50 +110,27 @@ bool SurveyWindow::ValidDraft()
     return true;
 }
 
-bool SurveyWindow::IsUpToDate(const Stage &stage)
+void SurveyWindow::WorkOutDrafts()
 {
-    if (!DraftOf(stage).IsOutdated())
-        return true;
-    ActivateTab(stage);
-    TellNotCalculated();
-    return false;
-}
-
-bool SurveyWindow::BringUpToDate()
-{
-    if (mQuantityRefused)
-        return false;
-    const bool ofAnotherShip = IsOfAnotherShip();
-    const auto isToSave = [this, ofAnotherShip](const Stage &stage) {
-        const clsDraft &draft = DraftOf(stage);
-        return draft.ToSave() || (ofAnotherShip && draft.IsThere());
-    };
-    const Stage &shown = ActiveStage();
-    clsDraft &draft = DraftOf(shown);
-    if (isToSave(shown) && draft.IsOutdated()) {
-        if (!ValidCalcInput() || draft.Calculate(kFullRun) == ReturnCode::NotCalculated)
-            return false;
-        if (ShowResults(shown, draft) && mQuantitiesWithheld)
-            ShowDeductions(draft.Deductions());
-        CheckResults(shown);
+    const UnsaidMessages quiet;
+    bool shownChanged = false;
+    for (const Stage &stage : Stage::All()) {
+        clsDraft &draft = DraftOf(stage);
+        const Value before = draft.NetDisplacement();
+        if (!draft.ToSave() || !draft.Recalculate())
+            continue;
+        // The figures of the later stages rest on the Initial draft.
+        shownChanged = shownChanged || stage == ActiveStage() || stage == Stage::Initial;
+        if (stage == Stage::Initial && mConstant.IsNumber() && mConstant != Value(std::int16_t {0})
+            && mConstant == before - mShip.LightShip())
+            mConstant = draft.NetDisplacement() - mShip.LightShip();
     }
-    const auto mayBeSaved = [&](const Stage &stage) { return !isToSave(stage) || IsUpToDate(stage); };
-    if (!std::ranges::all_of(Stage::All(), mayBeSaved))
-        return false;
-    for (const Stage &stage : Stage::All())
-        DraftOf(stage).ToSave(isToSave(stage));
-    return true;
-}
-
-bool SurveyWindow::IsOfAnotherShip()
-{
-    return mRsParticulars.State() == 1 && mRsParticulars.RecordCount() > 0
-        && mRsParticulars.Fields("ShipID").SqlText() != ui->dcbShip->BoundValue().SqlText();
-}
-
-bool SurveyWindow::MayBeSaved()
-{
-    return BringUpToDate() && ValidDrafts();
+    try {
+        if (shownChanged)
+            LoadDraft(ActiveStage());
+    } catch (const RuntimeError &) {
+        // The save goes on by the drafts, whatever the screen can show of them.
+    }
 }
 
 bool SurveyWindow::ValidDrafts()

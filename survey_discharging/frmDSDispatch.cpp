@@ -21,12 +21,6 @@ Value Figure(const Value &value)
     return value.IsAbsent() ? Value(std::int16_t {0}) : value;
 }
 
-void TellLoadFailure()
-{
-    // The loading window's name stands here, and is meant to.
-    MsgBox("frmDraftSurvey::LoadDraft");
-}
-
 bool IsCloseKey(const QKeyEvent &key)
 {
     return key.key() == Qt::Key_F4 && key.modifiers().testFlag(Qt::ControlModifier);
@@ -112,15 +106,8 @@ void frmDSDispatch::LoadDraft(const Stage &stage)
 try {
     SurveyWindow::LoadDraft(stage);
 } catch (const RuntimeError &) {
-    TellLoadFailure();
-}
-
-bool frmDSDispatch::ShowResults(const Stage &stage, clsDraft &draft)
-try {
-    return SurveyWindow::ShowResults(stage, draft);
-} catch (const RuntimeError &) {
-    TellLoadFailure();
-    return false;
+    // The loading window's name stands here, and is meant to.
+    MsgBox("frmDraftSurvey::LoadDraft");
 }
 
 bool frmDSDispatch::ShowStageResults(const Stage &stage, clsDraft &draft)
@@ -279,13 +266,21 @@ void frmDSDispatch::cmbDailyDateTime_Click()
                   DecimalOf(discharged) - DecimalOf(mResults->txtPrevDischargedCargo->text()));
 }
 
+void frmDSDispatch::LeavePartlyFilled()
+{
+    const std::int32_t found = mRecordID;
+    NewDraft();
+    // The survey has its row, and can be completed.
+    mRecordID = found;
+    mMode = 1;
+}
+
 bool frmDSDispatch::StartsNewDaily(MsgAnswer answer)
 {
-    if (answer == MsgAnswer::Yes && !BringUpToDate())
-        return false;
-    // Where another stage is in front now, it would be blanked.
+    if (answer == MsgAnswer::Yes)
+        WorkOutDrafts();
     if (!ValidDrafts())
-        return ActiveStage() == Stage::Daily;
+        return true;
     return answer == MsgAnswer::Yes ? SaveBeforeNewDaily() : answer == MsgAnswer::No;
 }
 

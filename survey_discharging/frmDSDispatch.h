@@ -31,7 +31,6 @@ protected:
     void cmbDailyDateTime_Click() override;
 
     void LoadDraft(const Stage &stage) override;
-    [[nodiscard]] bool ShowResults(const Stage &stage, clsDraft &draft) override;
     [[nodiscard]] ResultCaptions FreshCaptions(const Stage &stage) const override;
     [[nodiscard]] bool ShowStageResults(const Stage &stage, clsDraft &draft) override;
     void CheckResults(const Stage &stage) override;
@@ -47,6 +46,7 @@ protected:
     [[nodiscard]] NumberRule RuleOf(const QString &field) const override;
     void BlankDensityLeft() override;
 
+    void LeavePartlyFilled() override;
     /// The check comes before the answer counts: a draft that fails it starts a new one whatever the answer.
     [[nodiscard]] bool StartsNewDaily(MsgAnswer answer) override;
     /// A discharging survey is saved whatever its figures.

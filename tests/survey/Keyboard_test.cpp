@@ -213,20 +213,44 @@ TEST_F(DischargingByKeyboard, TheCloseKeyIgnoresErrorsAndKeepsTheWindow)
     EXPECT_NE(Stored(), "");
 }
 
-TEST_F(DischargingByKeyboard, AYesAtClosingSavesWhatWasTypedLast)
+TEST_F(DischargingByKeyboard, WhatWasNotCopiedDoesNotCountAtClosing)
+{
+    AddShip();
+    Open();
+    FillHeader();
+    Prompt(kClosePrompt, MsgAnswer::Yes);
+    PressClose();
+    ASSERT_FALSE(IsOpen());
+    Open();
+    EXPECT_EQ(Text("dcbVoyageID"), "V1") << "a survey without a draft";
+    FillMarks(kWorkedMarks);
+    FillCell(0, "470.5");
+    Calculate();
+    SaveWell();
+    Fill("txtDensity", "1.02");
+    PressClose();
+    EXPECT_FALSE(IsOpen());
+    EXPECT_EQ(Ask("SELECT Cargo || SpecificGravity || ' ' || NetDisplacement FROM DraftParticulars NATURAL JOIN "
+                  "DraftDetails")
+                  .Text(),
+              "Coal1.015 22441.68513");
+}
+
+TEST_F(DischargingByKeyboard, ANewDailyDraftIsCheckedBeforeTheAnswerCounts)
 {
     AddShip();
     Open();
     EnterWorked();
     SaveWell();
-    Fill("txtDensity", "1.02");
-    Fill("txtCargo", "Coke");
-    Prompt(kClosePrompt, MsgAnswer::Yes);
-    PressClose();
-    EXPECT_FALSE(IsOpen());
-    EXPECT_EQ(Ask("SELECT Cargo || SpecificGravity FROM DraftParticulars NATURAL JOIN DraftDetails").Text(),
-              "Coke1.02");
-    EXPECT_EQ(Ask("SELECT NetDisplacement > 22441.68513 FROM DraftDetails").Text(), "1");
+    const std::string stored = Stored();
+    for (const MsgAnswer answer : {MsgAnswer::Cancel, MsgAnswer::Yes}) {
+        ClickTab("Daily");
+        FillMarks(kDailyMarks);
+        Prompt("Save changes to daily draft", answer);
+        ExpectTold("Invalid value for Net Displacement..!.", [this] { Click(The("cmdNewDailyDraft")); });
+        EXPECT_EQ(Tab() + Text("txtFwdPort"), "Daily");
+    }
+    EXPECT_EQ(Stored(), stored);
 }
 
 TEST_F(DischargingByKeyboard, AWholeSurveyIsEnteredAndSaved)

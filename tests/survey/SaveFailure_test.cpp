@@ -126,6 +126,30 @@ TEST_F(SaveFailure, AnApostropheIsNeverWritten)
     EXPECT_EQ(StoredSurveys(), R"([1,1,"V1 2",1,"Coal 2",341.68513,1])");
 }
 
+TEST_F(SaveFailure, AShipThatCannotBeReadEndsNothing)
+{
+    StoreSurvey();
+    AddShip();
+    Open();
+    Run("PRAGMA busy_timeout = 0");
+    OpenOther();
+    mOther->Execute("BEGIN EXCLUSIVE");
+    for (int reader = 0; reader < 4; ++reader)
+        Tell("An internal error has occured."
+             "Please contact us with the error code on the titlebar of this dialog box.",
+             MsgIcon::Critical, "Keelmark-10105");
+    ExpectTold(
+        "Unable to retrieve ship particulars.", [this] { Pick("dcbShip", 1); }, MsgIcon::None);
+    mOther.reset();
+    Fill("txtFwdPort", "7.6");
+    ExpectTold(
+        "clsDraft::Calculate", [this] { Calculate(); }, MsgIcon::None);
+    EXPECT_EQ(Text("txtFwdPort"), "7.6");
+    SaveWell();
+    PressClose();
+    EXPECT_FALSE(IsOpen());
+}
+
 TEST_F(SaveFailure, ADateWithPromptsIsNoDateForTheStore)
 {
     StoreSurvey();
