@@ -5,9 +5,10 @@
 
 std::int32_t clsShip::SetShip(std::int32_t shipID)
 try {
-    mRow = std::make_unique<Recordset>();
-    mRow->Reopen("SELECT Ship.* FROM Ship WHERE Ship.ShipID = " + std::to_string(shipID), CursorType::Dynamic,
-                 LockType::BatchOptimistic);
+    auto row = std::make_unique<Recordset>();
+    row->Open("SELECT Ship.* FROM Ship WHERE Ship.ShipID = " + std::to_string(shipID), CursorType::Dynamic,
+              LockType::BatchOptimistic);
+    mRow = std::move(row);
     return ReturnCode::Success;
 } catch (const RuntimeError &) {
     // The two sentences run together on purpose.

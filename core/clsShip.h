@@ -16,7 +16,7 @@ class clsShip
 {
 public:
     /// ReturnCode::Success, also for a ship that is not in the store. After a run-time error, whose message has been
-    /// shown, ReturnCode::ShipNotSet; there is no ship then, and every property raises an error.
+    /// shown, ReturnCode::ShipNotSet; the view is then of the row that it was of.
     std::int32_t SetShip(std::int32_t shipID);
 
     /// Distance between the forward and aft draft marks: LBP + FwdX - AftX. The integer 0 where there is no ship.
