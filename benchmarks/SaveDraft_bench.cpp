@@ -25,12 +25,8 @@ void SaveInKeelmark(benchmark::State &state)
     draft.MidStbd("7.97");
     draft.AftPort("8.61");
     draft.AftStbd("8.59");
-    for (const int item : kItems) {
-        draft.Deductions().AddNew();
-        draft.Deductions().Fields("ItemID", item);
-        draft.Deductions().Fields("Quantity", Decimal(100 + item));
-        draft.Deductions().Update();
-    }
+    for (const int item : kItems)
+        draft.Deduction(item, Decimal(100 + item));
     if (draft.Calculate(0) != ReturnCode::Calculated || draft.SaveDraft(1) != ReturnCode::Success)
         BenchFailure("the draft could not be saved");
     draft.DraftMode(1);

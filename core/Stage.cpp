@@ -1,4 +1,4 @@
-#include "survey/Stage.h"
+#include "core/Stage.h"
 
 #include "core/clsDraft.h"
 

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <QString>
-
 #include <array>
 #include <cstdint>
 
@@ -20,7 +18,7 @@ public:
 
     [[nodiscard]] int Tab() const { return mTab; }
     [[nodiscard]] std::int16_t DraftType() const { return mDraftType; }
-    [[nodiscard]] QString Caption() const { return QString::fromLatin1(mCaption); }
+    [[nodiscard]] const char *Caption() const { return mCaption; }
 
     friend bool operator==(const Stage &left, const Stage &right) { return left.mTab == right.mTab; }
 

@@ -4,6 +4,8 @@
 #include "core/MsgBox.h"
 #include "core/ReturnCode.h"
 
+#include <algorithm>
+
 clsDraft::Results::Results()
 {
     const Value blank = Value::EmptyText();
@@ -22,8 +24,7 @@ clsDraft::Results::Results()
 }
 
 clsDraft::clsDraft()
-    : mDeductions(std::make_unique<Recordset>())
-    , mRow(std::make_unique<Recordset>())
+    : mRow(std::make_unique<Recordset>())
 {
     NewDraft();
     InitDeductions();
@@ -92,18 +93,38 @@ try {
 
 void clsDraft::OpenDeductions(std::int32_t draftID)
 {
-    if (mDeductions->State() == 1)
-        mDeductions->Close();
-    mDeductions->Open("SELECT * FROM DeductionTrans WHERE DraftID = " + std::to_string(draftID), CursorType::Keyset,
-                      LockType::BatchOptimistic);
+    mDeductions.reset();
+    Recordset rows;
+    rows.Open("SELECT * FROM DeductionTrans WHERE DraftID = " + std::to_string(draftID), CursorType::Keyset,
+              LockType::BatchOptimistic);
+    std::vector<ItemQuantity> quantities;
+    for (; !rows.AtEnd(); rows.MoveNext())
+        quantities.push_back({rows.Fields("ItemID"), rows.Fields("Quantity")});
+    mDeductions = std::move(quantities);
+}
+
+void clsDraft::Deduction(const Value &itemID, const Value &quantity)
+{
+    if (!mDeductions)
+        return;
+    const auto found = std::ranges::find(*mDeductions, itemID, &ItemQuantity::itemID);
+    if (found != mDeductions->end())
+        found->quantity = quantity;
+    else
+        mDeductions->push_back({itemID, quantity});
+}
+
+std::vector<ItemQuantity> &clsDraft::Quantities()
+{
+    if (!mDeductions)
+        throw RuntimeError(StoreError::WrongState, "The quantities of the draft could not be read.");
+    return *mDeductions;
 }
 
 void clsDraft::AddQuantities(Value &total)
 {
-    if (mDeductions->RecordCount() < 1)
-        return;
-    for (mDeductions->MoveFirst(); !mDeductions->AtEnd(); mDeductions->MoveNext())
-        total = total + mDeductions->Fields("Quantity");
+    for (const ItemQuantity &each : Quantities())
+        total = total + each.quantity;
 }
 
 Value clsDraft::GetTotDeductibles()

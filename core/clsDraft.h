@@ -6,8 +6,10 @@
 #include <array>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 /// Kinds of draft, as the column DraftType holds them. The tabs of a survey window are numbered otherwise.
 namespace DraftTypeCode
@@ -16,6 +18,12 @@ inline constexpr std::int16_t Initial = 0;
 inline constexpr std::int16_t Final = 1;
 inline constexpr std::int16_t Daily = 2;
 } // namespace DraftTypeCode
+
+/// Tonnes on board of one deductible item.
+struct ItemQuantity {
+    Value itemID;
+    Value quantity;
+};
 
 /// One draft taken on a ship: what was read on board and all that is calculated from it.
 ///
@@ -73,8 +81,10 @@ public:
     void HasRecord(bool hasRecord) { mHasRecord = hasRecord; }
     /// There is a draft: one that is in the store, or one that is being made.
     [[nodiscard]] bool IsThere() const { return mHasRecord || mToSave; }
-    /// The quantities of this draft (DraftID, ItemID, Quantity), kept in memory until SaveDraft.
-    [[nodiscard]] Recordset &Deductions() { return *mDeductions; }
+    /// The quantities of this draft, kept in memory until SaveDraft; null where they could not be read.
+    [[nodiscard]] const std::vector<ItemQuantity> *Deductions() const { return mDeductions ? &*mDeductions : nullptr; }
+    /// Sets an item's quantity; nothing where they could not be read.
+    void Deduction(const Value &itemID, const Value &quantity);
 
     [[nodiscard]] const Value &FwdMean() const { return mResults.fwdMean; }
     [[nodiscard]] const Value &MidMean() const { return mResults.midMean; }
@@ -82,10 +92,10 @@ public:
     [[nodiscard]] const Value &TotDeductibles() const { return mTotDeductibles; }
     /// Leaves ToSave alone; the next calculation replaces it.
     void TotDeductibles(const Value &value) { mTotDeductibles = value; }
-    [[nodiscard]] HydrostaticRows HDT() const { return mResults.hdt; }
-    [[nodiscard]] ListCorrectionRows HDTListCorr() const { return mResults.hdtListCorr; }
-    [[nodiscard]] InterpolatedRows IpResult() const { return mResults.ipResult; }
-    [[nodiscard]] FinalItems FinalResult() const { return mResults.finalResult; }
+    [[nodiscard]] const HydrostaticRows &HDT() const { return mResults.hdt; }
+    [[nodiscard]] const ListCorrectionRows &HDTListCorr() const { return mResults.hdtListCorr; }
+    [[nodiscard]] const InterpolatedRows &IpResult() const { return mResults.ipResult; }
+    [[nodiscard]] const FinalItems &FinalResult() const { return mResults.finalResult; }
     /// Aft mean less forward mean: positive by the stern.
     [[nodiscard]] const Value &ApparentTrim() const { return mResults.apparentTrim; }
     [[nodiscard]] const Value &FwdCorrection() const { return mResults.fwdCorrection; }
@@ -160,6 +170,8 @@ private:
     /// The quantities of a draft in the store; none of the draft before stay where they cannot be had.
     void OpenDeductions(std::int32_t draftID);
     Value GetTotDeductibles();
+    /// The quantities; wrong state where they could not be read.
+    [[nodiscard]] std::vector<ItemQuantity> &Quantities();
     void AddQuantities(Value &total);
 
     void CalculateDrafts();
@@ -198,6 +210,6 @@ private:
 
     clsShip mShip;
     std::unique_ptr<clsHydrostaticData> mHydrostatics;
-    std::unique_ptr<Recordset> mDeductions;
+    std::optional<std::vector<ItemQuantity>> mDeductions;
     std::unique_ptr<Recordset> mRow;
 };

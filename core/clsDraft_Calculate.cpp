@@ -23,11 +23,6 @@ Value Number(std::int16_t number)
     return number;
 }
 
-Value ZeroIfEmpty(const Value &value)
-{
-    return value.IsEmptyText() ? Number(0) : value;
-}
-
 void TellInvalidInput(std::string_view text)
 {
     MsgBox(std::string(text).append(kTwoLineBreaks).append("Please check your input values."), MsgIcon::Critical);
@@ -178,10 +173,10 @@ void clsDraft::CalculateNetDisplacement()
 {
     // The displacement is taken with five places here, the corrections at full precision.
     mResults.finalResult[5]
-        = mResults.finalResult[4] + (mResults.finalResult[3] + ZeroIfEmpty(mResults.ipResult[1][0]));
-    mResults.finalResult[7] = (mSpecificGravity * ZeroIfEmpty(mResults.finalResult[5])) / Value(kSeaWaterDensity);
-    mResults.finalResult[6] = ZeroIfEmpty(mResults.finalResult[7]) - mResults.finalResult[5];
+        = mResults.finalResult[4] + (mResults.finalResult[3] + ZeroIfAbsent(mResults.ipResult[1][0]));
+    mResults.finalResult[7] = (mSpecificGravity * ZeroIfAbsent(mResults.finalResult[5])) / Value(kSeaWaterDensity);
+    mResults.finalResult[6] = ZeroIfAbsent(mResults.finalResult[7]) - mResults.finalResult[5];
     mResults.finalResult[8] = GetTotDeductibles();
-    mResults.finalResult[9] = Round(ZeroIfEmpty(mResults.finalResult[7]) - mTotDeductibles, 5);
+    mResults.finalResult[9] = Round(ZeroIfAbsent(mResults.finalResult[7]) - mTotDeductibles, 5);
     mResults.finalResult[10] = mShip.LightShip();
 }

@@ -69,17 +69,12 @@ std::string clsDraft::UpdateStatement() const
 void clsDraft::SaveDeductions()
 {
     gConnection->Execute("DELETE FROM DeductionTrans WHERE DraftID = " + std::to_string(mDraftID));
-    if (mDeductions->RecordCount() < 1)
-        return;
-    for (mDeductions->MoveFirst(); !mDeductions->AtEnd(); mDeductions->MoveNext()) {
-        const Value quantity = mDeductions->Fields("Quantity");
-        if (quantity == Value(std::int16_t {0}))
-            mDeductions->Delete(1);
-        else
+    for (const ItemQuantity &each : Quantities())
+        if (!IsZero(each.quantity))
             gConnection->Execute("INSERT INTO DeductionTrans (DraftID, ItemID, Quantity) VALUES("
-                                 + std::to_string(mDraftID) + ", " + mDeductions->Fields("ItemID").SqlText() + ", "
-                                 + quantity.SqlText() + ")");
-    }
+                                 + std::to_string(mDraftID) + ", " + each.itemID.SqlText() + ", "
+                                 + each.quantity.SqlText() + ")");
+    std::erase_if(Quantities(), [](const ItemQuantity &each) { return IsZero(each.quantity); });
 }
 
 std::int32_t clsDraft::GetDraft(std::int32_t recordID, const std::string &date, const std::string &time)
@@ -133,8 +128,8 @@ void clsDraft::ReadRow()
 void clsDraft::ReadDeductions()
 {
     OpenDeductions(mDraftID);
-    if (mDeductions->RecordCount() < 1) {
-        mTotDeductibles = std::int16_t {0};
+    if (Quantities().empty()) {
+        mTotDeductibles = Value::Zero();
         return;
     }
     // Not reset first: the calculation that follows sets the total right. The screen may have left a text here.

@@ -52,3 +52,12 @@ void FitGrids(const Ui::SurveyWindow &ui)
     ui.fgrdDeduction->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
     ui.fgrdDeduction->setColumnWidth(1, DigitsWidth(*ui.fgrdDeduction, 12) + kCellMargins);
 }
+
+void SetEntryOrder(const Ui::SurveyWindow &ui, QWidget &quantity)
+{
+    QWidget *const order[] = {ui.dcbShip,        ui.dcbVoyageID, ui.dcbPort,    ui.txtCargo,   ui.txtDensity,
+                              ui.mbxDate,        ui.mbxTime,     ui.txtFwdPort, ui.txtFwdStbd, ui.txtMidShipPort,
+                              ui.txtMidshipStbd, ui.txtAftPort,  ui.txtAftStbd, &quantity,     ui.txtComments};
+    for (std::size_t i = 1; i < std::size(order); ++i)
+        QWidget::setTabOrder(order[i - 1], order[i]);
+}

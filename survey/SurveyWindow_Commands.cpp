@@ -1,9 +1,10 @@
+#include "core/ReturnCode.h"
+#include "frame/platform/Settings.h"
 #include "survey/SurveyControls.h"
+#include "survey/SurveyMessages.h"
 #include "survey/SurveyWindow.h"
 
-#include "core/ReturnCode.h"
-
-#include "frame/platform/Settings.h"
+#include <QScopedValueRollback>
 
 namespace
 {
@@ -29,9 +30,21 @@ bool MayDelete(const char *text)
         == MsgAnswer::Yes;
 }
 
+/// A save's code as a 16-bit number: overflow (6) for DuplicateDraft, as closing and New Daily are known for.
+std::int16_t Narrowed(std::int32_t code)
+{
+    return Value(code).ToInteger();
+}
+
 std::string CodeCaption(std::int32_t code)
 {
     return std::string(kProgramTitle) + std::to_string(code);
+}
+
+void TellSaveFailure(std::string_view caption)
+{
+    MsgBox(std::string("An internal error has occured while updating draft/s").append(kContactUs), MsgIcon::Exclamation,
+           caption);
 }
 
 void TellDeleteFailure(std::string_view text, std::string_view caption)
@@ -42,7 +55,7 @@ void TellDeleteFailure(std::string_view text, std::string_view caption)
 
 void SurveyWindow::RSave()
 try {
-    if (ui->fgrdFinalResult->Cell(9, 1).isEmpty()) {
+    if (!mResults.HasNetDisplacement()) {
         TellExclamation("Incomplete data...!\n\nPlease enter all the details and press calculate before saving.");
         return;
     }
@@ -77,32 +90,34 @@ void SurveyWindow::ShowSavedStage()
 {
     if (ActiveStage() == Stage::Initial) {
         EnableSurveyTabs(true);
-        InitVoyageIDDataCombo();
-        InitDateTimedatacombo();
+        mLists.InitVoyageIDDataCombo();
+        mLists.InitDateTimedatacombo();
     } else if (ActiveStage() == Stage::Daily) {
         ui->cmdNewDailyDraft->show();
         ui->cmdNewDailyDraft->setEnabled(true);
-        InitDateDataCombo();
-        InitTimeDataCombo();
-        InitDateTimedatacombo();
+        mLists.InitDateDataCombo();
+        mLists.InitTimeDataCombo();
+        mLists.InitDateTimedatacombo();
     }
 }
 
 bool SurveyWindow::StartsNewDaily(MsgAnswer answer)
 {
-    if (answer != MsgAnswer::Yes)
-        return answer == MsgAnswer::No;
-    WorkOutDrafts();
-    return ValidDrafts() && SaveBeforeNewDaily();
+    const bool saves = answer == MsgAnswer::Yes;
+    if (saves)
+        WorkOutDrafts();
+    if ((saves || mKind.checksBeforeAnswer) && !ValidDrafts())
+        return mKind.checksBeforeAnswer;
+    return saves ? SaveBeforeNewDaily() : answer == MsgAnswer::No;
 }
 
 bool SurveyWindow::SaveBeforeNewDaily()
 {
-    switch (SaveDraftNarrowed()) {
+    switch (Narrowed(SaveDraft())) {
     case ReturnCode::Success:
-        InitDateDataCombo();
-        InitTimeDataCombo();
-        InitDateTimedatacombo();
+        mLists.InitDateDataCombo();
+        mLists.InitTimeDataCombo();
+        mLists.InitDateTimedatacombo();
         return true;
     case ReturnCode::NothingToSave:
         TellExclamation(kNoChanges);
@@ -116,39 +131,41 @@ bool SurveyWindow::SaveBeforeNewDaily()
 void SurveyWindow::cmdNewDailyDraft_Click()
 {
     CollectDraft(ActiveStage());
-    if (!AnyToSave() || StartsNewDaily(AskToSave("Save changes to daily draft")))
+    if (!mSurvey.AnyToSave() || StartsNewDaily(AskToSave("Save changes to daily draft")))
         NewDailyDraft();
 }
 
 void SurveyWindow::RNew()
 {
     CollectDraft(ActiveStage());
-    if (AnyToSave()) {
+    if (mSurvey.AnyToSave()) {
         const MsgAnswer answer = AskToSave("Save changes to draft/s");
-        if (answer == MsgAnswer::Cancel)
+        if (answer == MsgAnswer::Cancel || (answer == MsgAnswer::Yes && !SaveBeforeNew()))
             return;
-        if (answer == MsgAnswer::Yes) {
-            WorkOutDrafts();
-            if (!ValidDrafts())
-                return;
-            const std::int32_t code = SaveDraft();
-            if (code == ReturnCode::DuplicateDraft)
-                TellExclamation(kDuplicateDraft);
-            else if (code == ReturnCode::NothingToSave)
-                TellExclamation(kNoChanges);
-            else if (code != ReturnCode::Success)
-                TellSaveFailure(CodeCaption(code));
-            if (code != ReturnCode::Success)
-                return;
-        }
     }
     NewDraft();
     ResetWorkspace(false);
-    mNoEvents = true;
-    ActivateTab(Stage::Initial);
-    mNoEvents = false;
-    ShowFreshHeadings();
+    {
+        const QScopedValueRollback noEvents(mNoEvents, true);
+        ActivateTab(Stage::Initial);
+    }
+    mResults.ShowHeadings(Stage::Initial, mKind.freshCaptions[0]);
     ui->dcbShip->setFocus();
+}
+
+bool SurveyWindow::SaveBeforeNew()
+{
+    WorkOutDrafts();
+    if (!ValidDrafts())
+        return false;
+    const std::int32_t code = SaveDraft();
+    if (code == ReturnCode::DuplicateDraft)
+        TellExclamation(kDuplicateDraft);
+    else if (code == ReturnCode::NothingToSave)
+        TellExclamation(kNoChanges);
+    else if (code != ReturnCode::Success)
+        TellSaveFailure(CodeCaption(code));
+    return code == ReturnCode::Success;
 }
 
 void SurveyWindow::RDelete()
@@ -166,13 +183,13 @@ void SurveyWindow::DeleteInitial()
     if (!MayDelete("Deletion of Initial draft will also delete Final and all Daily drafts.\n\n"
                    "Are you sure to continue ?"))
         return;
-    const std::int32_t code = mInitDraft.DeleteDraft();
+    const std::int32_t code = mSurvey.Draft(Stage::Initial).DeleteDraft();
     if (code == ReturnCode::DeleteDraftFailed)
         TellDeleteFailure("An internal error has occured while deleting draft/s", "Keelmark-10000");
     if (code != ReturnCode::Success)
         return;
-    if (GetSetting(SettingsSection(), "RecordID", "0") == std::to_string(mRecordID))
-        SaveSetting(SettingsSection(), "RecordID", "0");
+    if (GetSetting(mKind.settingsSection, "RecordID", "0") == std::to_string(mSurvey.RecordID()))
+        SaveSetting(mKind.settingsSection, "RecordID", "0");
     NewDraft();
     ResetWorkspace(true);
     MsgBox("Drafts deleted successfully.", MsgIcon::Information);
@@ -182,15 +199,15 @@ void SurveyWindow::DeleteDaily()
 {
     if (!MayDelete("Are you sure to delete the daily draft ?"))
         return;
-    const std::int32_t code = mDailyDraft.DeleteDraft();
+    const std::int32_t code = mSurvey.Draft(Stage::Daily).DeleteDraft();
     if (code == ReturnCode::DeleteDraftFailed)
         TellDeleteFailure("An internal error has occured while deleting the current draft", "Keelmark-10000");
     if (code != ReturnCode::Success)
         return;
     NewDailyDraft();
-    InitDateDataCombo();
-    InitDateTimedatacombo();
-    InitTimeDataCombo();
+    mLists.InitDateDataCombo();
+    mLists.InitDateTimedatacombo();
+    mLists.InitTimeDataCombo();
     MsgBox("One record has been deleted successfully.", MsgIcon::Information);
 }
 
@@ -198,7 +215,7 @@ void SurveyWindow::DeleteFinal()
 {
     if (!MayDelete("Are you sure to delete the final draft ?"))
         return;
-    const std::int32_t code = mFinalDraft.DeleteDraft();
+    const std::int32_t code = mSurvey.Draft(Stage::Final).DeleteDraft();
     // No hyphen in this caption, unlike the other two.
     if (code == ReturnCode::DeleteDraftFailed)
         TellDeleteFailure("An internal error has occured while deleting the current draft", "Keelmark10000");
@@ -206,26 +223,23 @@ void SurveyWindow::DeleteFinal()
         return;
     SendMask("111111011");
     LoadDraft(Stage::Final);
-    mNoEvents = true;
-    SetListCorrection(Stage::Final, false);
-    mNoEvents = false;
+    {
+        const QScopedValueRollback noEvents(mNoEvents, true);
+        SetListCorrection(Stage::Final, false);
+    }
     ui->dcbDate->setEnabled(false);
     ui->cmbTime->setEnabled(false);
     ui->cmdNewDailyDraft->hide();
     MsgBox("One record has been deleted successfully.", MsgIcon::Information);
 }
 
-void SurveyWindow::CollectBeforeClosing()
-{
-    CollectDraft(ActiveStage());
-}
-
 void SurveyWindow::RClose(bool &cancel)
 {
     cancel = false;
-    CollectBeforeClosing();
-    const bool anyToSave = AnyToSave();
-    if (!mHeaderDirty && !anyToSave)
+    if (mKind.collectsBeforeClosing)
+        CollectDraft(ActiveStage());
+    const bool anyToSave = mSurvey.AnyToSave();
+    if (!mSurvey.HeaderDirty() && !anyToSave)
         return;
     if (anyToSave)
         CollectDraft(ActiveStage());
@@ -234,19 +248,19 @@ void SurveyWindow::RClose(bool &cancel)
         cancel = answer != MsgAnswer::No;
         return;
     }
-    const bool selected = ValidSelection();
+    const bool selected = mHeader.ValidSelection();
     WorkOutDrafts();
     const bool valid = ValidDrafts();
     if (!selected || !valid) {
         cancel = true;
         return;
     }
-    const std::int16_t code = SaveDraftNarrowed();
+    const std::int16_t code = Narrowed(SaveDraft());
     cancel = code != ReturnCode::Success;
     if (code == ReturnCode::NothingToSave)
         TellExclamation(kNoChanges);
     else if (code == ReturnCode::DuplicateSurvey)
         TellExclamation(kDuplicateSurvey);
     else if (code != ReturnCode::Success)
-        TellSaveFailure(CloseFailureCaption());
+        TellSaveFailure(mKind.closeFailureCaption);
 }

@@ -3,10 +3,11 @@
 #include "survey/SurveyControls.h"
 #include "survey/SurveyWindow.h"
 
-#include "core/numeric/NumericText.h"
-
 #include <QRegularExpression>
+#include <QScopedValueRollback>
 #include <QSignalBlocker>
+
+#include <utility>
 
 namespace
 {
@@ -20,13 +21,6 @@ std::int32_t KeptRecordID(const std::string &setting)
     }
 }
 } // namespace
-
-clsDraft &SurveyWindow::DraftOf(const Stage &stage)
-{
-    if (stage == Stage::Initial)
-        return mInitDraft;
-    return stage == Stage::Daily ? mDailyDraft : mFinalDraft;
-}
 
 QCheckBox &SurveyWindow::ListCorrectionOf(const Stage &stage) const
 {
@@ -61,39 +55,33 @@ void SurveyWindow::sstDraftSurvey_Click(int previousTab)
     try {
         CollectDraft(Stage::OfTab(previousTab));
         const Stage stage = ActiveStage();
-        const clsDraft &draft = DraftOf(stage);
-        const bool known = draft.IsThere();
+        const bool known = mSurvey.Draft(stage).IsThere();
         ShowStageControls(stage);
         if (stage == Stage::Daily) {
             ui->cmdNewDailyDraft->setEnabled(known);
             if (known)
-                InitTimeDataCombo();
+                mLists.InitTimeDataCombo();
             else
                 NewDailyDraft();
             SendMask(known ? "111101111" : "111101011");
-            BeforeDailyShown();
+            if (mKind.listsDatesOnDaily)
+                mLists.InitDateDataCombo();
         } else {
             SendMask(stage == Stage::Initial || known ? "111111111" : "111111011");
         }
         LoadDraft(stage);
     } catch (const RuntimeError &) {
-        ReportTabFailure();
+        if (mKind.tellsTabFailure)
+            MsgBox("frmDraftSurvey::sstDraftSurvey_Click");
         return;
     }
     ui->txtDensity->setFocus();
 }
 
-void SurveyWindow::ReportTabFailure()
-{
-    MsgBox("frmDraftSurvey::sstDraftSurvey_Click");
-}
-
 void SurveyWindow::ShowStageControls(const Stage &stage)
 {
-    const bool initial = stage == Stage::Initial;
     const bool daily = stage == Stage::Daily;
-    for (QWidget *header : std::initializer_list<QWidget *> {ui->dcbShip, ui->dcbVoyageID, ui->dcbPort, ui->txtCargo})
-        header->setEnabled(initial);
+    mHeader.Enable(stage == Stage::Initial);
     ui->dcbDate->setEnabled(daily);
     ui->cmbTime->setEnabled(daily);
     for (const Stage &each : Stage::All())
@@ -101,50 +89,51 @@ void SurveyWindow::ShowStageControls(const Stage &stage)
     ui->fgrdResult->setVisible(!daily);
     ui->cmdGetDrafts->setVisible(stage != Stage::Final);
     ui->cmdNewDailyDraft->setVisible(daily);
-    ShowStageFrames(stage);
+    mPanel->ShowFrames(stage);
 }
 
 void SurveyWindow::ResetWorkspace(bool loadLast)
 {
     SendMask("011111011");
 
-    mNoEvents = true;
-    for (DataCombo *picker : {ui->dcbShip, ui->dcbVoyageID, ui->dcbPort})
-        picker->SetText(QString());
-    ui->txtCargo->clear();
-    ClearTextBoxes();
-    ui->lblHogSag->hide();
-    ui->txtDeflection->clear();
-    ui->fgrdHDT->show();
-    for (const Stage &stage : Stage::All())
-        SetListCorrection(stage, false);
-    ResetFrames();
-    mNoEvents = false;
+    {
+        const QScopedValueRollback noEvents(mNoEvents, true);
+        mHeader.Blank();
+        ClearTextBoxes();
+        ui->lblHogSag->hide();
+        ui->txtDeflection->clear();
+        ui->fgrdHDT->show();
+        for (const Stage &stage : Stage::All()) {
+            SetListCorrection(stage, false);
+            if (mKind.resetsListCorrection)
+                ListCorrectionOf(stage).setVisible(stage == Stage::Initial);
+        }
+    }
 
-    for (QWidget *header : std::initializer_list<QWidget *> {ui->dcbShip, ui->dcbVoyageID, ui->dcbPort, ui->txtCargo})
-        header->setEnabled(true);
+    // An empty window stands on its first stage: the other frames would lie over this one.
+    mPanel->ShowFrames(Stage::Initial);
+    ui->fgrdResult->show();
+    mHeader.Enable(true);
     ui->dcbDate->setEnabled(false);
     ui->cmbTime->setEnabled(false);
     ui->cmdNewDailyDraft->hide();
     ui->cmdGetDrafts->show();
     EnableSurveyTabs(false);
-    InitVoyageIDDataCombo();
+    mLists.InitVoyageIDDataCombo();
 
     if (!loadLast)
         return;
-    mRecordID = KeptRecordID(GetSetting(SettingsSection(), "RecordID", "-1"));
-    if (mRecordID != -1)
-        GetDraft("SELECT * FROM DraftParticulars WHERE RecordID = " + std::to_string(mRecordID)
-                     + " AND IsLoading = " + IsLoading(),
+    mSurvey.RecordID(KeptRecordID(GetSetting(mKind.settingsSection, "RecordID", "-1")));
+    if (mSurvey.RecordID() != -1)
+        GetDraft("SELECT * FROM DraftParticulars WHERE RecordID = " + std::to_string(mSurvey.RecordID())
+                     + " AND IsLoading = " + std::string(mKind.direction.isLoading),
                  false);
 }
 
 void SurveyWindow::ClearTextBoxes()
 {
-    const QStringList kept = KeptFields();
-    for (QLineEdit *field : findChildren<QLineEdit *>(QRegularExpression(QStringLiteral("^txt"))))
-        if (!kept.contains(field->objectName()))
-            field->clear();
+    const QStringList kept = QString::fromLatin1(mKind.keptFields).split(' ');
+    ClearFields([&kept](const QLineEdit &field) { return !kept.contains(field.objectName()); });
     ui->txtComments->clear();
     InitializeAllGrids(true);
 }
@@ -152,27 +141,24 @@ void SurveyWindow::ClearTextBoxes()
 void SurveyWindow::ClearReadOnly()
 {
     SetListCorrection(ActiveStage(), false);
-    for (QLineEdit *field : findChildren<QLineEdit *>(QRegularExpression(QStringLiteral("^txt"))))
-        if (field->isReadOnly())
-            field->clear();
+    ClearFields([](const QLineEdit &field) { return field.isReadOnly(); });
     InitializeAllGrids(false);
+}
+
+void SurveyWindow::ClearFields(const std::function<bool(const QLineEdit &)> &isToClear)
+{
+    for (QLineEdit *field : findChildren<QLineEdit *>(QRegularExpression(QStringLiteral("^txt"))))
+        if (isToClear(*field))
+            field->clear();
 }
 
 void SurveyWindow::CollectDraft(const Stage &stage)
 {
-    clsDraft &draft = DraftOf(stage);
+    clsDraft &draft = mSurvey.Draft(stage);
     mCurDraft = &draft;
     draft.ListCorrected(ListCorrectionOf(stage).isChecked());
-    draft.SpecificGravity(Entered(*ui->txtDensity));
-    draft.DSDate(ui->mbxDate->Text().toStdString());
-    draft.DSTime(ui->mbxTime->Text().toStdString());
-    draft.FwdPort(Entered(*ui->txtFwdPort));
-    draft.FwdStbd(Entered(*ui->txtFwdStbd));
-    draft.MidPort(Entered(*ui->txtMidShipPort));
-    draft.MidStbd(Entered(*ui->txtMidshipStbd));
-    draft.AftPort(Entered(*ui->txtAftPort));
-    draft.AftStbd(Entered(*ui->txtAftStbd));
-    draft.TotDeductibles(ui->fgrdFinalResult->Cell(8, 1).toStdString());
+    mEntries.Collect(draft);
+    draft.TotDeductibles(mResults.TotalDeductibles().toStdString());
     draft.Comments(ui->txtComments->toPlainText().toStdString());
-    CollectDeductions(stage);
+    mDeductions.Collect(draft);
 }

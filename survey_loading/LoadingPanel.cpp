@@ -1,243 +1,196 @@
-#include "survey_loading/frmDraftSurvey.h"
-
-#include "frame/controls/ScreenText.h"
-#include "reports/Report.h"
-#include "reports/ReportFilling.h"
-#include "survey/SurveyControls.h"
-#include "ui_LoadingResults.h"
+#include "survey_loading/LoadingPanel.h"
 
 #include "core/numeric/NumericText.h"
-
 #include "frame/controls/Colours.h"
+#include "frame/controls/ScreenText.h"
+#include "frame/platform/Form.h"
+#include "survey/NumberRule.h"
+#include "survey/SurveyControls.h"
+#include "survey/SurveyLists.h"
+#include "survey/SurveyMessages.h"
+#include "ui_LoadingResults.h"
 
 namespace
 {
 constexpr std::int32_t kConstantLimit = 100000;
+constexpr int kLightShipRow = 10;
+constexpr int kInitialRow = 10;
+constexpr int kConstantRow = 11;
+constexpr int kCargoRow = 11;
 
-Value Zero()
+const NumberRule &CargoIntended()
 {
-    return std::int16_t {0};
-}
-
-Value ZeroIfAbsent(const Value &value)
-{
-    return value.IsAbsent() ? Zero() : value;
+    static const NumberRule rule {.lowAccepted = true,
+                                  .high = 1000000,
+                                  .notANumber
+                                  = "Invalid value for Cargo intended to load.\n\nPlease enter numeric value.",
+                                  .outOfRange = "Invalid value for Cargo intended to load.\n\n"
+                                                "Please enter value  greater than 0 and less than 1000000."};
+    return rule;
 }
 } // namespace
 
-frmDraftSurvey::frmDraftSurvey(QWidget *parent)
-    : SurveyWindow(QStringLiteral("Draft Survey-[Loading]"), parent)
-    , mResults(std::make_unique<Ui::LoadingResults>())
+LoadingPanel::LoadingPanel(const SurveyParts &parts)
+    : StagePanel(parts)
+    , ui(std::make_unique<Ui::LoadingResults>())
 {
-    setObjectName(QStringLiteral("frmDraftSurvey"));
-    mResults->setupUi(&AddStageFrames());
-    connect(mResults->cmbDailyDateTime, &QComboBox::activated, this, &frmDraftSurvey::cmbDailyDateTime_Click);
-    OnValidate(mResults->txtCargoIntendedToLoad, [this](bool &cancel) { txtCargoIntendedToLoad_Validate(cancel); });
-    FitStageFrames();
+    ui->setupUi(this);
+    parts.form.OnValidate(ui->txtCargoIntendedToLoad,
+                          [this](bool &cancel) { txtCargoIntendedToLoad_Validate(cancel); });
 }
 
-frmDraftSurvey::~frmDraftSurvey() = default;
+LoadingPanel::~LoadingPanel() = default;
 
-QComboBox &frmDraftSurvey::DailyDateTimes() const
+QComboBox &LoadingPanel::Baselines() const
 {
-    return *mResults->cmbDailyDateTime;
+    return *ui->cmbDailyDateTime;
 }
 
-SurveyWindow::ResultCaptions frmDraftSurvey::FreshCaptions(const Stage &stage) const
+void LoadingPanel::ShowFrames(const Stage &stage)
 {
-    if (stage == Stage::Final)
-        return {"Final Net Displacement", "Net. Displacement", "Total Cargo Loaded"};
-    return {"Net Displacement", "Light Ship", "Constant"};
+    ui->fmeInitNetDisp->setVisible(stage == Stage::Initial);
+    ui->fmeDailyDraftResult->setVisible(stage == Stage::Daily);
+    ui->fmeFinalNetDisp->setVisible(stage == Stage::Final);
 }
 
-void frmDraftSurvey::ShowStageFrames(const Stage &stage)
+bool LoadingPanel::ShowResults(const Stage &stage, const clsDraft &draft)
 {
-    mResults->fmeInitNetDisp->setVisible(stage == Stage::Initial);
-    mResults->fmeDailyDraftResult->setVisible(stage == Stage::Daily);
-    mResults->fmeFinalNetDisp->setVisible(stage == Stage::Final);
-}
-
-void frmDraftSurvey::ResetFrames()
-{
-    for (const Stage &stage : Stage::All())
-        ListCorrectionOf(stage).setVisible(stage == Stage::Initial);
-    // An empty window stands on its first stage: the other frames would lie over this one.
-    ShowStageFrames(Stage::Initial);
-    ui->fgrdResult->show();
-}
-
-bool frmDraftSurvey::ShowStageResults(const Stage &stage, clsDraft &draft)
-{
-    SetRed(*mResults->txtInitNetDisp, ui->fgrdFinalResult->IsRed(9, 1));
+    SetRed(*ui->txtInitNetDisp, mParts.results.IsNetDisplacementRed());
     if (stage == Stage::Daily)
-        return ShowDailyResults(draft);
+        return ShowDailyResults(draft.NetDisplacement());
     if (stage == Stage::Final)
-        return ShowFinalResults(draft);
-    ShowInitialResults(draft);
+        return ShowFinalResults(draft.NetDisplacement());
+    ShowInitialResults(draft.NetDisplacement());
     return true;
 }
 
-void frmDraftSurvey::ShowInitialResults(clsDraft &draft)
+void LoadingPanel::ShowInitialResults(const Value &netDisplacement)
 {
-    ShowFinalCaptions({"Net Displacement", "LightShip", "Constant"});
-    const Value lightShip = mShip.LightShip();
-    const Value netDisplacement = draft.NetDisplacement();
-    mConstant = ZeroIfAbsent(netDisplacement) - lightShip;
-    const bool wrong = !LiesBetween(mConstant, 0, kConstantLimit);
-    ShowFinalCell(10, lightShip);
-    ShowFinalCell(11, mConstant);
-    ui->fgrdFinalResult->SetRed(11, 1, wrong);
-    ShowValue(*mResults->txtInitNetDisp, netDisplacement);
-    ShowValue(*mResults->txtConstant, mConstant);
-    SetRed(*mResults->txtConstant, wrong);
-    if (mConstant >= Value(kConstantLimit))
+    const Value lightShip = mParts.survey.Ship().LightShip();
+    const Value constant = ZeroIfAbsent(netDisplacement) - lightShip;
+    mParts.survey.Constant(constant);
+    const bool wrong = !LiesBetween(constant, 0, kConstantLimit);
+    mParts.results.ShowCell(kLightShipRow, lightShip);
+    mParts.results.ShowCell(kConstantRow, constant);
+    mParts.results.SetCellRed(kConstantRow, wrong);
+    ShowValue(*ui->txtInitNetDisp, netDisplacement);
+    ShowValue(*ui->txtConstant, constant);
+    SetRed(*ui->txtConstant, wrong);
+    if (constant >= Value(kConstantLimit))
         TellInvalidInput("Value of constant is too large.");
 }
 
-bool frmDraftSurvey::ShowDailyResults(clsDraft &draft)
+bool LoadingPanel::BlankWithout(const Value &netDisplacement)
 {
-    ShowFinalCaptions({"Net Displacement", "Light Ship", "Constant"});
-    ui->fgrdFinalResult->SetBold(9, 0, true);
-    const Value lightShip = mShip.LightShip();
-    const Value netDisplacement = draft.NetDisplacement();
-    // Where only the Initial draft has no figure, the quantities of this one are shown all the same.
-    const bool noInitial = mInitDraft.NetDisplacement().IsAbsent();
-    if (netDisplacement.IsAbsent() || netDisplacement == Zero() || noInitial) {
-        mResults->txtPrevLoadedCargo->clear();
-        ui->fgrdFinalResult->SetCell(10, 1, QString());
-        ui->fgrdFinalResult->SetCell(11, 1, QString());
-        return noInitial && !netDisplacement.IsAbsent() && netDisplacement != Zero();
+    if (!IsZero(netDisplacement) && !mParts.survey.Draft(Stage::Initial).NetDisplacement().IsAbsent())
+        return false;
+    mParts.results.ShowCell(10, Value::EmptyText());
+    mParts.results.ShowCell(11, Value::EmptyText());
+    return true;
+}
+
+bool LoadingPanel::ShowDailyResults(const Value &netDisplacement)
+{
+    if (BlankWithout(netDisplacement)) {
+        ui->txtPrevLoadedCargo->clear();
+        // Where only the Initial draft has no figure, the quantities of this one are shown all the same.
+        return !IsZero(netDisplacement);
     }
-    const Value constant = mInitDraft.NetDisplacement() - lightShip;
-    ShowFinalCell(10, lightShip);
-    ShowFinalCell(11, constant);
+    const Value lightShip = mParts.survey.Ship().LightShip();
+    const Value constant = mParts.survey.Draft(Stage::Initial).NetDisplacement() - lightShip;
+    mParts.results.ShowCell(kLightShipRow, lightShip);
+    mParts.results.ShowCell(kConstantRow, constant);
     ShowCargoOnboard(Round((netDisplacement - lightShip) - constant, 5));
     return true;
 }
 
-void frmDraftSurvey::ShowCargoOnboard(const Value &cargo)
+void LoadingPanel::ShowCargoOnboard(const Value &cargo)
 {
-    QLineEdit &onboard = *mResults->txtTotCargoOnboard;
-    ShowValue(onboard, cargo);
-    const Value sinceLast = DecimalOrZero(onboard.text()) - DecimalOrZero(mResults->txtPrevLoadedCargo->text());
-    ShowValue(*mResults->txtLastLoadedCargo, sinceLast);
-    SetRed(*mResults->txtLastLoadedCargo, IsNegative(sinceLast));
-    SetRed(onboard, IsNegative(cargo));
+    ShowValue(*ui->txtTotCargoOnboard, cargo);
+    ShowCargoSince(DecimalOrZero(ui->txtTotCargoOnboard->text()) - DecimalOrZero(ui->txtPrevLoadedCargo->text()));
+    SetRed(*ui->txtTotCargoOnboard, IsNegative(cargo));
     if (IsNegative(cargo))
         TellInvalidInput("Invalid value of Total Cargo on board.");
-    const QString intended = mResults->txtCargoIntendedToLoad->text();
+    const QString intended = ui->txtCargoIntendedToLoad->text();
     // The field's own check looks at another field first, so letters may stand here.
     if (!IsBlank(intended) && !IsNumericText(intended.toStdString()))
-        mResults->txtBalCargoToLoad->clear();
+        ui->txtBalCargoToLoad->clear();
     else if (!IsBlank(intended))
         ShowBalance(DecimalOf(intended) - cargo);
 }
 
-void frmDraftSurvey::ShowBalance(const Value &balance)
+void LoadingPanel::ShowCargoSince(const Value &cargo)
 {
-    ShowValue(*mResults->txtBalCargoToLoad, balance);
-    SetRed(*mResults->txtBalCargoToLoad, IsNegative(balance));
+    ShowValue(*ui->txtLastLoadedCargo, cargo);
+    SetRed(*ui->txtLastLoadedCargo, IsNegative(cargo));
+}
+
+void LoadingPanel::ShowBalance(const Value &balance)
+{
+    ShowValue(*ui->txtBalCargoToLoad, balance);
+    SetRed(*ui->txtBalCargoToLoad, IsNegative(balance));
     if (IsNegative(balance))
         TellExclamation("You have exceeded the quantity of cargo intended to load on ship.");
 }
 
-bool frmDraftSurvey::ShowFinalResults(clsDraft &draft)
+bool LoadingPanel::ShowFinalResults(const Value &netDisplacement)
 {
-    ShowFinalCaptions({"Final Net Displacement", "Initial Net Displacement", "Total Cargo Loaded"});
-    const Value netDisplacement = draft.NetDisplacement();
-    // Where only the Initial draft has no figure, the quantities of this one are shown all the same.
-    const bool noInitial = mInitDraft.NetDisplacement().IsAbsent();
-    if (netDisplacement.IsAbsent() || netDisplacement == Zero() || noInitial) {
-        ui->fgrdFinalResult->SetCell(10, 1, QString());
-        ui->fgrdFinalResult->SetCell(11, 1, QString());
-        return noInitial && !netDisplacement.IsAbsent() && netDisplacement != Zero();
-    }
-    const Value cargo = Round(netDisplacement - mInitDraft.NetDisplacement(), 5);
-    ShowFinalCell(10, Round(mInitDraft.NetDisplacement(), 5));
-    ShowFinalCell(11, cargo);
-    ui->fgrdFinalResult->SetRed(11, 1, IsNegative(cargo));
-    ShowValue(*mResults->txtFinalNetDisp, netDisplacement);
-    SetRed(*mResults->txtFinalNetDisp, IsNegative(netDisplacement));
-    ShowValue(*mResults->txtTotCargoLoaded, cargo);
-    SetRed(*mResults->txtTotCargoLoaded, IsNegative(cargo));
+    if (BlankWithout(netDisplacement))
+        return !IsZero(netDisplacement);
+    const Value initial = mParts.survey.Draft(Stage::Initial).NetDisplacement();
+    const Value cargo = Round(netDisplacement - initial, 5);
+    mParts.results.ShowCell(kInitialRow, Round(initial, 5));
+    mParts.results.ShowCell(kCargoRow, cargo);
+    mParts.results.SetCellRed(kCargoRow, IsNegative(cargo));
+    ShowValue(*ui->txtFinalNetDisp, netDisplacement);
+    SetRed(*ui->txtFinalNetDisp, IsNegative(netDisplacement));
+    ShowValue(*ui->txtTotCargoLoaded, cargo);
+    SetRed(*ui->txtTotCargoLoaded, IsNegative(cargo));
     return true;
 }
 
-void frmDraftSurvey::CheckResults(const Stage &)
+void LoadingPanel::Check(const Stage &)
 {
-    if (!mCurrentNetDisp.IsAbsent() && !LiesBetween(mCurrentNetDisp, 0, 1000000)) {
+    if (!CurrentNetDisp().IsAbsent() && !LiesBetween(CurrentNetDisp(), 0, 1000000)) {
         TellInvalidInput("Invalid Net Displacement value.");
         return;
     }
     // Row 11 on every tab, so that on the Final tab the constant takes the cargo loaded, and is meant to.
-    const QString text = ui->fgrdFinalResult->Cell(11, 1);
-    mConstant = text.isEmpty() ? Value::EmptyText() : DecimalOf(text);
-    if (!text.isEmpty() && !LiesBetween(mConstant, 0, kConstantLimit))
+    const QString text = mParts.results.LastRow();
+    mParts.survey.Constant(text.isEmpty() ? Value::EmptyText() : DecimalOf(text));
+    if (!text.isEmpty() && !LiesBetween(mParts.survey.Constant(), 0, kConstantLimit))
         TellInvalidInput("Invalid constant value.");
 }
 
-std::string frmDraftSurvey::SavedConstant(bool) const
-{
-    return mConstant.SqlText();
-}
-
-SurveyWindow::NumberRule frmDraftSurvey::RuleOf(const QString &field) const
-{
-    if (field != QLatin1String("txtCargoIntendedToLoad"))
-        return SurveyWindow::RuleOf(field);
-    return {.lowAccepted = true,
-            .high = 1000000,
-            .notANumber = "Invalid value for Cargo intended to load.\n\nPlease enter numeric value.",
-            .outOfRange = "Invalid value for Cargo intended to load.\n\n"
-                          "Please enter value  greater than 0 and less than 1000000."};
-}
-
-void frmDraftSurvey::txtCargoIntendedToLoad_Validate(bool &cancel)
+void LoadingPanel::txtCargoIntendedToLoad_Validate(bool &cancel)
 {
     // The forward starboard mark is looked at and not this field, and is meant to be.
-    if (ui->txtFwdStbd->text().isEmpty())
+    if (mParts.ui.txtFwdStbd->text().isEmpty())
         return;
-    QLineEdit &field = *mResults->txtCargoIntendedToLoad;
-    if (IsBlank(field.text()) || !TakeNumber(field, RuleOf(field.objectName()), cancel))
+    QLineEdit &field = *ui->txtCargoIntendedToLoad;
+    if (IsBlank(field.text()) || !TakeNumber(field, CargoIntended(), cancel))
         return;
     const Value intended = DecimalOf(field.text());
-    const QString onboard = mResults->txtTotCargoOnboard->text();
+    const QString onboard = ui->txtTotCargoOnboard->text();
     if (onboard.isEmpty())
-        ShowValue(*mResults->txtBalCargoToLoad, intended);
+        ShowValue(*ui->txtBalCargoToLoad, intended);
     else
         ShowBalance(intended - DecimalOf(onboard));
 }
 
-void frmDraftSurvey::cmbDailyDateTime_Click()
+void LoadingPanel::BaselinePicked()
 {
-    if (ui->txtTrueMeanDraft->text().isEmpty())
+    if (!mParts.results.IsCalculated())
         return;
-    if (mConstant.IsEmptyText()) {
+    if (mParts.survey.Constant().IsEmptyText()) {
         // Without a constant there is no figure, rather than one that is wrong by all of it.
-        mResults->txtPrevLoadedCargo->clear();
-        mResults->txtLastLoadedCargo->clear();
+        ui->txtPrevLoadedCargo->clear();
+        ui->txtLastLoadedCargo->clear();
         return;
     }
-    const QComboBox &list = *mResults->cmbDailyDateTime;
-    mRsDailyList.MoveFirst();
-    if (list.currentText() != QLatin1String("Initial Draft"))
-        mRsDailyList.Move(list.currentIndex(), Recordset::kBookmarkFirst);
-    const Value previous = mRsDailyList.Fields("NetDisplacement") - mShip.LightShip() - mConstant;
-    ShowValue(*mResults->txtPrevLoadedCargo, previous);
-    const QString onboard = mResults->txtTotCargoOnboard->text();
-    if (onboard.isEmpty())
-        return;
-    const Value sinceThen = DecimalOf(onboard) - DecimalOf(mResults->txtPrevLoadedCargo->text());
-    ShowValue(*mResults->txtLastLoadedCargo, sinceThen);
-    SetRed(*mResults->txtLastLoadedCargo, IsNegative(sinceThen));
-}
-
-Report &frmDraftSurvey::OwnReport() const
-{
-    return drptDraftSurvey();
-}
-
-void frmDraftSurvey::FillReport(const ReportedSurvey &survey) const
-{
-    FillLoadportReport(drptDraftSurvey(), survey);
+    ShowValue(*ui->txtPrevLoadedCargo,
+              mParts.lists.BaselineNetDisplacement() - mParts.survey.Ship().LightShip() - mParts.survey.Constant());
+    const QString onboard = ui->txtTotCargoOnboard->text();
+    if (!onboard.isEmpty())
+        ShowCargoSince(DecimalOf(onboard) - DecimalOf(ui->txtPrevLoadedCargo->text()));
 }

@@ -262,6 +262,17 @@ Decimal NumericTextToDecimal(std::string_view text, const RegionalSettings &regi
     return Decimal::Parse(*plain);
 }
 
+std::optional<Decimal> TypedNumber(std::string_view text)
+{
+    try {
+        return NumericTextToDecimal(text);
+    } catch (const RuntimeError &error) {
+        if (error.Number() != ErrorNumber::Overflow)
+            throw;
+        return std::nullopt;
+    }
+}
+
 std::string FieldSqlText(std::string_view text, const RegionalSettings &regional)
 {
     static_cast<void>(NumericTextToDecimal(text, regional));

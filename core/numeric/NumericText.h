@@ -3,6 +3,7 @@
 #include "core/numeric/Decimal.h"
 #include "core/numeric/Regional.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -14,6 +15,9 @@
 /// The number that such a text stands for. Type mismatch (13) where IsNumericText is false for its form,
 /// overflow (6) where it is out of a decimal's range.
 [[nodiscard]] Decimal NumericTextToDecimal(std::string_view text, const RegionalSettings &regional = Regional());
+
+/// The same; nothing where it is out of a decimal's range.
+[[nodiscard]] std::optional<Decimal> TypedNumber(std::string_view text);
 
 /// A field's number as a statement takes it: its digits as they stand, a point for the decimal separator. What a field
 /// may hold beyond a sign, digits, one separator and an exponent has no place in a statement, so the result is always

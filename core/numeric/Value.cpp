@@ -300,6 +300,16 @@ Value Round(const Value &value, int places)
     return number;
 }
 
+bool IsZero(const Value &value)
+{
+    return value.IsAbsent() || value == Value::Zero();
+}
+
+Value ZeroIfAbsent(const Value &value)
+{
+    return value.IsAbsent() ? Value::Zero() : value;
+}
+
 Value Abs(const Value &value)
 {
     Value number = AsNumber(value);

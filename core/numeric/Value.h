@@ -56,6 +56,8 @@ public:
     }
     [[nodiscard]] static Value Null();
     [[nodiscard]] static Value EmptyText() { return Value(std::string()); }
+    /// The 16-bit integer 0.
+    [[nodiscard]] static Value Zero() { return std::int16_t {0}; }
 
     [[nodiscard]] Kind Type() const noexcept { return static_cast<Kind>(mData.index()); }
     [[nodiscard]] bool IsNull() const noexcept { return Type() == Kind::Null; }
@@ -104,6 +106,12 @@ private:
 /// `value` rounded to `places` decimal places, ties to the even digit; its kind stays. Text is converted to decimal
 /// first, no value counts as the 16-bit integer 0. Errors as for the conversions.
 [[nodiscard]] Value Round(const Value &value, int places);
+
+/// 0 of any kind, or absent.
+[[nodiscard]] bool IsZero(const Value &value);
+
+/// The value, or Zero for one that is absent.
+[[nodiscard]] Value ZeroIfAbsent(const Value &value);
 
 /// The magnitude of a number; its kind stays.
 [[nodiscard]] Value Abs(const Value &value);

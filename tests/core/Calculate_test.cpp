@@ -177,7 +177,7 @@ TEST_F(Calculation, GoesOnAfterARunTimeErrorAsFarAsItCame)
     EXPECT_EQ(CalculateTelling(unbound, 0, {kCalculateTrap}), ReturnCode::Calculated);
 
     clsDraft badQuantity = WorkedDraft(shipID);
-    TypeQuantity(badQuantity, 24, Value::Null());
+    badQuantity.Deduction(24, Value::Null());
     EXPECT_EQ(CalculateTelling(badQuantity, 0, {{.text = "clsDraft::GetTotDeductibles"}}), ReturnCode::Calculated);
     EXPECT_EQ(badQuantity.NetDisplacement().Text(), "22441.68513") << "the quantities as far as they were summed";
 }

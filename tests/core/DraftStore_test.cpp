@@ -98,8 +98,8 @@ TEST_F(DraftStore, RefusesADuplicateAndWhatTheStoreCannotTake)
         {"no date", [](clsDraft &draft) { draft.DSDate("__-__-____"); }},
         {"never calculated", [](clsDraft &draft) { draft.NewDraft(), Type(draft, kWorkedReadings); }},
         {"marks not typed", [](clsDraft &draft) { draft.NewDraft(), Type(draft, "1.025 8"); }},
-        {"no such item", [](clsDraft &draft) { TypeQuantity(draft, 999, Decimal(1)); }},
-        {"no quantity", [](clsDraft &draft) { TypeQuantity(draft, 24, Value::Null()); }},
+        {"no such item", [](clsDraft &draft) { draft.Deduction(999, Decimal(1)); }},
+        {"no quantity", [](clsDraft &draft) { draft.Deduction(24, Value::Null()); }},
     };
     for (const auto &[what, spoil] : spoils) {
         clsDraft draft = WorkedDraft(mShipID, DraftTypeCode::Final);
@@ -143,18 +143,19 @@ TEST_F(DraftStore, NoCommentReachesBeyondItself)
 
 TEST_F(DraftStore, DropsQuantitiesOfZeroWhereverTheyStand)
 {
+    constexpr std::int32_t kItems[] {2, 3, 24, 25, 26, 27, 28, 29};
     for (const std::vector<int> &quantities : {std::vector {0, 0, 7, 0, 0, 5, 0, 0}, {0, 0, 0}, {1, 2, 3, 4}}) {
         clsDraft draft = NewDraftOf(mShipID);
         Type(draft, kWorkedReadings);
-        for (const int quantity : quantities)
-            TypeQuantity(draft, 2, Decimal(quantity));
+        for (int item = 0; const int quantity : quantities)
+            draft.Deduction(kItems[item++], Decimal(quantity));
         ASSERT_EQ(draft.Calculate(0), ReturnCode::Calculated);
         mRecordID = AddSurvey(mShipID, std::to_string(quantities.size()));
         ASSERT_EQ(draft.SaveDraft(mRecordID), ReturnCode::Success);
         clsDraft loaded = Loaded(DraftTypeCode::Initial);
         const auto kept = std::ssize(quantities) - std::count(quantities.begin(), quantities.end(), 0);
-        EXPECT_EQ(draft.Deductions().RecordCount(), kept);
-        EXPECT_EQ(loaded.Deductions().RecordCount(), kept);
+        EXPECT_EQ(std::ssize(*draft.Deductions()), kept);
+        EXPECT_EQ(std::ssize(*loaded.Deductions()), kept);
         EXPECT_EQ(loaded.NetDisplacement(), draft.NetDisplacement());
     }
 }

@@ -100,21 +100,12 @@ void SurveyTest::Type(clsDraft &draft, const std::string &readings)
             (draft.*set)(text);
 }
 
-void SurveyTest::TypeQuantity(clsDraft &draft, std::int32_t itemID, const Value &quantity)
-{
-    Recordset &deductions = draft.Deductions();
-    deductions.AddNew();
-    deductions.Fields("ItemID", itemID);
-    deductions.Fields("Quantity", quantity);
-    deductions.Update();
-}
-
 clsDraft SurveyTest::WorkedDraft(std::int32_t shipID, std::int16_t type, const std::string &readings)
 {
     clsDraft draft = NewDraftOf(shipID, type);
     Type(draft, readings);
-    TypeQuantity(draft, 2, Decimal::Parse("350"));
-    TypeQuantity(draft, 3, Decimal::Parse("120.5"));
+    draft.Deduction(2, Decimal::Parse("350"));
+    draft.Deduction(3, Decimal::Parse("120.5"));
     EXPECT_EQ(draft.Calculate(0), 0);
     return draft;
 }

@@ -43,7 +43,6 @@ protected:
 
     static clsDraft NewDraftOf(std::int32_t shipID, std::int16_t type = DraftTypeCode::Initial);
     static void Type(clsDraft &draft, const std::string &readings);
-    static void TypeQuantity(clsDraft &draft, std::int32_t itemID, const Value &quantity);
     /// Typed and calculated, with deductions of 350 and 120.5.
     static clsDraft WorkedDraft(std::int32_t shipID, std::int16_t type = DraftTypeCode::Initial,
                                 const std::string &readings = kWorkedReadings);

@@ -1,0 +1,165 @@
+#include "survey/SurveyLists.h"
+
+#include "frame/controls/ScreenText.h"
+#include "survey/SurveyControls.h"
+#include "survey/SurveyMessages.h"
+
+#include <QSignalBlocker>
+
+namespace
+{
+/// dd-MM-yyyy and HH:mm out of the twelve digits of the column DateTime.
+constexpr std::string_view kDate
+    = "(substr(DD.DateTime,7,2) || '-' || substr(DD.DateTime,5,2) || '-' || substr(DD.DateTime,1,4))";
+constexpr std::string_view kTime = "(substr(DD.DateTime,9,2) || ':' || substr(DD.DateTime,-2))";
+
+std::string DailyDraftsOf(const Survey &survey)
+{
+    // Ordered by the text of the date, as this list always was: 02-03-2024 comes before 15-01-2024.
+    return " FROM DraftDetails AS DD WHERE DD.RecordID = " + std::to_string(survey.RecordID())
+        + " AND DD.DraftType = 2 ORDER BY " + std::string(kDate) + " ASC";
+}
+} // namespace
+
+SurveyLists::SurveyLists(const Ui::SurveyWindow &controls, const Survey &survey)
+    : ui(controls)
+    , mSurvey(survey)
+{
+}
+
+void SurveyLists::UseBaselines(QComboBox &list, std::function<void()> picked)
+{
+    mBaselines = &list;
+    mBaselinePicked = std::move(picked);
+    QObject::connect(&list, &QComboBox::activated, &list, [this] { mBaselinePicked(); });
+}
+
+void SurveyLists::InitShipDataCombo()
+try {
+    mRsShip.Reopen("SELECT * FROM Ship ORDER BY ShipName", CursorType::Dynamic, LockType::BatchOptimistic);
+    ui.dcbShip->SetRows(mRsShip, "ShipName", "ShipID");
+} catch (const RuntimeError &error) {
+    TellSource(error, "InitShipDataCombo");
+}
+
+void SurveyLists::InitVoyageIDDataCombo()
+try {
+    mRsVoyage.Reopen("SELECT DISTINCT VoyageID FROM DraftParticulars WHERE isLoading = "
+                         + std::string(mSurvey.Direction().isLoading) + " ORDER BY VoyageID",
+                     CursorType::Dynamic, LockType::BatchOptimistic);
+    ui.dcbVoyageID->SetRows(mRsVoyage, "VoyageID");
+} catch (const RuntimeError &error) {
+    TellSource(error, "InitVoyageIDDataCombo");
+}
+
+void SurveyLists::InitPortDataCombo()
+try {
+    mRsPort.Reopen("SELECT * FROM Port ORDER BY PortName", CursorType::Dynamic, LockType::BatchOptimistic);
+    ui.dcbPort->SetRows(mRsPort, "PortName", "PortID");
+} catch (const RuntimeError &error) {
+    TellSource(error, "InitPortDataCombo");
+}
+
+void SurveyLists::InitDateDataCombo()
+try {
+    mRsDate.Reopen("SELECT DISTINCT " + std::string(kDate) + " AS DSDate" + DailyDraftsOf(mSurvey), CursorType::Static,
+                   LockType::ReadOnly);
+    ui.dcbDate->SetRows(mRsDate, "DSDate");
+} catch (const RuntimeError &error) {
+    TellSource(error, "InitDateDataCombo");
+}
+
+void SurveyLists::FillTimes(const QString &date)
+{
+    mRsTime.Reopen("SELECT DISTINCT " + std::string(kDate) + " AS DSDate, " + std::string(kTime) + " AS DSTime"
+                       + DailyDraftsOf(mSurvey),
+                   CursorType::Static, LockType::ReadOnly);
+    ui.cmbTime->clear();
+    if (mRsTime.RecordCount() < 1)
+        return;
+    mRsTime.Filter("DSDate = " + date.toStdString());
+    for (; !mRsTime.AtEnd(); mRsTime.MoveNext())
+        ui.cmbTime->addItem(ScreenText(mRsTime.Fields("DSTime")));
+    mRsTime.Filter("");
+    ui.cmbTime->setCurrentIndex(-1);
+}
+
+void SurveyLists::InitTimeDataCombo()
+try {
+    FillTimes(QString::fromStdString(mSurvey.Draft(Stage::Daily).DSDate()));
+} catch (const RuntimeError &error) {
+    TellSource(error, "InitTimeDataCombo");
+}
+
+void SurveyLists::ShowTimesOfPickedDate()
+try {
+    FillTimes(ui.dcbDate->Text());
+} catch (const RuntimeError &error) {
+    MsgBox(error.Description().append(kTwoLineBreaks).append("Source :  dcbDate::Change"), MsgIcon::Critical);
+}
+
+void SurveyLists::InitDateTimedatacombo()
+try {
+    mRsDailyList.Reopen("SELECT (" + std::string(kDate) + " || ' ' || " + std::string(kTime)
+                            + ") AS [DateTime], NetDisplacement, DraftType FROM DraftDetails AS DD WHERE RecordID = "
+                            + std::to_string(mSurvey.RecordID())
+                            + " AND (DraftType = 0 or DraftType = 2) ORDER BY DD.DraftType, DD.DateTime",
+                        CursorType::Keyset, LockType::BatchOptimistic);
+    if (mRsDailyList.RecordCount() < 1)
+        return;
+    {
+        const QSignalBlocker quiet(mBaselines);
+        mBaselines->clear();
+        // The first row is the Initial draft's, whatever its date.
+        mBaselines->addItem(QStringLiteral("Initial Draft"));
+        mRsDailyList.MoveFirst();
+        for (mRsDailyList.MoveNext(); !mRsDailyList.AtEnd(); mRsDailyList.MoveNext())
+            mBaselines->addItem(ScreenText(mRsDailyList.Fields("DateTime")));
+    }
+    PickFirstBaseline();
+} catch (const RuntimeError &error) {
+    TellSource(error, "InitDateTimedatacombo");
+}
+
+void SurveyLists::PickFirstBaseline()
+{
+    if (mBaselines->count() == 0)
+        return;
+    {
+        const QSignalBlocker quiet(mBaselines);
+        mBaselines->setCurrentIndex(0);
+    }
+    mBaselinePicked();
+}
+
+void SurveyLists::FindShip(const Value &shipID)
+{
+    mRsShip.Find("ShipID = " + shipID.SqlText(), 0, Recordset::kSearchForward, Recordset::kBookmarkFirst);
+}
+
+bool SurveyLists::InitialIsBaseline() const
+{
+    return mBaselines->currentText() == QLatin1String("Initial Draft");
+}
+
+Value SurveyLists::BaselineNetDisplacement()
+{
+    mRsDailyList.MoveFirst();
+    if (!InitialIsBaseline())
+        mRsDailyList.Move(mBaselines->currentIndex(), Recordset::kBookmarkFirst);
+    return mRsDailyList.Fields("NetDisplacement");
+}
+
+std::string SurveyLists::PortText(const Value &portID)
+{
+    const auto find = [&] {
+        mRsPort.Find("PortID = " + portID.SqlText(), 0, Recordset::kSearchForward, Recordset::kBookmarkFirst);
+    };
+    find();
+    if (mRsPort.AtEnd()) {
+        mRsPort.Requery();
+        find();
+    }
+    const Value country = mRsPort.Fields("Country");
+    return mRsPort.Fields("PortName").Text() + ", " + (country.IsNull() ? std::string() : country.Text());
+}
