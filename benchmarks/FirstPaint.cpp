@@ -1,3 +1,5 @@
+#include "tests/support/OffscreenMessages.h"
+
 #include <QApplication>
 #include <QEvent>
 #include <QWidget>
@@ -41,6 +43,7 @@ public:
 
 void Watch()
 {
+    DropOffscreenMessages();
     QCoreApplication::instance()->installEventFilter(new FirstPaint);
 }
 } // namespace

@@ -5,6 +5,7 @@
 
 #include "frame/platform/Application.h"
 #include "frame/platform/Settings.h"
+#include "tests/support/OffscreenMessages.h"
 
 #include <QSettings>
 #include <QTemporaryDir>
@@ -31,6 +32,7 @@ int main(int argc, char **argv)
     for (const char *place : {"HOME", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR"})
         qputenv(place, home.path().toUtf8());
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    DropOffscreenMessages();
     const Application application(argc, argv);
     SetSettingsPort(std::make_unique<QSettings>(home.filePath(QStringLiteral("settings.ini")), QSettings::IniFormat));
     SetMsgBoxPort(AnswerBox);

@@ -3,6 +3,7 @@
 #include "frame/platform/Application.h"
 #include "frame/platform/Settings.h"
 #include "tests/support/FatalRecorder.h"
+#include "tests/support/OffscreenMessages.h"
 
 #include <gtest/gtest.h>
 
@@ -30,6 +31,7 @@ int main(int argc, char **argv)
     qputenv("LC_ALL", "C");
     QLocale::setDefault(QLocale::c());
 
+    DropOffscreenMessages();
     Application application(argc, argv);
     Application::setStyle(QStringLiteral("Fusion"));
     SetSettingsPort(std::make_unique<QSettings>(home.filePath(QStringLiteral("settings.ini")), QSettings::IniFormat));
