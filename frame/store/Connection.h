@@ -46,9 +46,9 @@ public:
     Connection &operator=(const Connection &) = delete;
 
     /// Opens an existing store for reading and writing and proves at once that it is one.
-    /// StoreRefusal (80004005): no such file, a folder, unreadable, empty, not a store, truncated or damaged.
-    /// ForeignStore: another program's file, or a version that this program does not know.
-    /// StatementFailed: another program holds the store locked. A write-protected store opens; writing to it fails.
+    /// StoreRefusal (80004005): no such file, a folder, unreadable, empty, not a store, truncated or damaged, or held
+    /// locked by another program. ForeignStore: another program's file, or a version that this program does not know.
+    /// A write-protected store opens; writing to it fails.
     /// After a failure the connection is closed and can be opened again.
     void Open(const std::filesystem::path &file);
     /// Closes; an open transaction is abandoned. WrongState when it is not open.

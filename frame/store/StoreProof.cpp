@@ -78,14 +78,9 @@ void ProveLength(sqlite3 *handle)
 
 void RaiseOpenError(sqlite3 *handle, int code)
 {
-    switch (code & 0xFF) {
-    case SQLITE_BUSY:
-    case SQLITE_LOCKED:
-    case SQLITE_NOMEM:
+    if (code == SQLITE_NOMEM)
         throw RuntimeError(StoreError::StatementFailed, sqlite3_errmsg(handle));
-    default:
-        Refuse(sqlite3_errmsg(handle));
-    }
+    Refuse(sqlite3_errmsg(handle));
 }
 
 void ProveFile(const std::filesystem::path &file)

@@ -84,9 +84,18 @@ TEST_F(FrameTest, AboutFromTheHelpMenuBringsUpTheTipAgain)
 
 TEST_F(FrameTest, MainTellsWhyTheStoreCannotBeOpened)
 {
-    Run("PRAGMA application_id = 7");
-    mMessages.Expect({.text = "Unable to find database...!", .icon = MsgIcon::Critical});
-    EXPECT_FALSE(Main(File() / "missing"));
+    const auto expectNotFound = [this](const std::filesystem::path &file) {
+        mMessages.Expect({.text = "Unable to find database...!", .icon = MsgIcon::Critical});
+        EXPECT_FALSE(Main(file));
+    };
+    {
+        const auto other = std::move(gConnection);
+        other->Execute("BEGIN EXCLUSIVE");
+        expectNotFound(File());
+        other->Execute("ROLLBACK");
+        other->Execute("PRAGMA application_id = 7");
+    }
+    expectNotFound(File() / "missing");
 
     mMessages.Expect({.text = "An internal error has occured.\n\n"
                               "Please contact us with the error no. mentioned on the titlebar of this dialog box",

@@ -151,13 +151,13 @@ TEST_F(Store, WhatACrashLeftHalfWrittenIsRolledBackAtOpen)
     EXPECT_EQ(Count("TipOfDay"), tips);
 }
 
-TEST_F(Store, AnotherProgramsLockIsNoRefusalOfTheStore)
+TEST_F(Store, AnotherProgramsLockKeepsTheStoreShut)
 {
     Connection other;
     other.Open(File());
     Run("BEGIN EXCLUSIVE");
     Connection late;
-    EXPECT_EQ(ErrorOf([&] { late.Open(File()); }), StatementFailed);
+    EXPECT_EQ(ErrorOf([&] { late.Open(File()); }), ErrorNumber::StoreRefusal);
     other.Execute("PRAGMA busy_timeout = 0");
     EXPECT_EQ(ErrorOf([&] { other.BeginTrans(); }), StatementFailed);
     EXPECT_FALSE(other.InTransaction());

@@ -42,6 +42,24 @@ TEST_F(TestStore, ANewStoreHoldsItemsAndTipsAndNothingElse)
     EXPECT_EQ(std::distance(fs::directory_iterator(File().parent_path()), fs::directory_iterator()), 1);
 }
 
+TEST_F(TestStore, NoStoreIsMadeBesideWhatAnotherLeft)
+{
+    for (const char *ending : {"-journal", "-wal"}) {
+        const fs::path file = File().parent_path() / "New.dat";
+        const fs::path rest = file.string() + ending;
+        std::ofstream(rest) << "left";
+        try {
+            static_cast<void>(MakeStore(file, StoreContent::Initial));
+            ADD_FAILURE() << "made beside " << rest;
+        } catch (const RuntimeError &error) {
+            EXPECT_NE(error.Description().find(rest.string()), std::string::npos);
+        }
+        fs::remove(rest);
+        EXPECT_TRUE(MakeStore(file, StoreContent::Initial));
+        fs::remove(file);
+    }
+}
+
 TEST_F(TestStore, EveryForeignKeyHasAnIndex)
 {
     Recordset keys;

@@ -19,6 +19,18 @@ namespace fs = std::filesystem;
     throw RuntimeError(StoreError::StatementFailed, why);
 }
 
+/// The first opening would play what another store left into the new one.
+void RefuseLeftovers(const fs::path &file)
+{
+    for (const char *ending : {"-journal", "-wal"}) {
+        fs::path rest = file;
+        rest += ending;
+        std::error_code error;
+        if (fs::symlink_status(rest, error).type() != fs::file_type::not_found)
+            Refuse(rest.string() + " belongs to a store that is gone. Put the store back, or move that file away.");
+    }
+}
+
 void Run(sqlite3 *handle, const char *script)
 {
     if (const int code = sqlite3_exec(handle, script, nullptr, nullptr, nullptr); code != SQLITE_OK)
@@ -91,6 +103,7 @@ bool MakeStore(const fs::path &file, StoreContent content)
         Refuse("No store can be made under that name.");
     if (type != fs::file_type::not_found)
         return false;
+    RefuseLeftovers(file);
     const Draft draft(file);
     Fill(draft.File(), content);
     return draft.TakeName(file);
