@@ -170,6 +170,13 @@ Form *frmMDI::FormInFront() const
 
 void frmMDI::FollowActiveChild()
 {
+    // A maximized child adds its name at every change of the title, also while another one is in front.
+    for (QMdiSubWindow *window : mArea->subWindowList()) {
+        removeEventFilter(window);
+        if (window->isMaximized() && window == mArea->currentSubWindow())
+            installEventFilter(window);
+    }
+    setWindowTitle(tr("Keelmark"));
     Form *form = FormInFront();
     if (form && form != mActiveForm) {
         mActiveForm = form;

@@ -111,6 +111,21 @@ TEST_F(FrameTest, ACentredWindowStaysInsideTheMainWindow)
     EXPECT_LT(Frame().ChildRoom().width(), room.width());
 }
 
+TEST_F(FrameTest, TheTitleNamesAMaximizedChildWhileItIsInFront)
+{
+    FakeChild &port = Open(ChildWindow::Port);
+    port.setWindowTitle("Ports");
+    port.parentWidget()->showMaximized();
+    Settle();
+    EXPECT_EQ(Frame().windowTitle(), "Keelmark - [Ports]");
+    Open(ChildWindow::Loading);
+    Settle();
+    EXPECT_EQ(Frame().windowTitle(), "Keelmark");
+    Open(ChildWindow::Port);
+    Settle();
+    EXPECT_EQ(Frame().windowTitle(), "Keelmark - [Ports]");
+}
+
 TEST_F(FrameTest, TheWindowMenuListsTheOpenChildren)
 {
     FakeChild &port = Open(ChildWindow::Port);
