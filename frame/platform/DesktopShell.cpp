@@ -3,15 +3,18 @@
 #include "core/MsgBox.h"
 #include "core/numeric/RuntimeError.h"
 
+#include <QCoreApplication>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
 #include <QProcess>
 #include <QSettings>
 #include <QStandardPaths>
+#include <QTimer>
 #include <QUrl>
 
 #include <algorithm>
+#include <functional>
 
 namespace
 {
@@ -74,30 +77,27 @@ bool StartRegisteredCalculator()
     return false;
 }
 
-// The file name of the desktop entry that opens files of a kind; empty where there is none.
-QString RegisteredFor(const char *mimeType)
+const QString kRegistry = QStringLiteral("xdg-mime");
+
+using Answer = std::function<void(const QString &entry)>;
+
+// Asks for the file name of the desktop entry that opens files of a kind; empty where there is none. The answer comes
+// later, from the event loop, and not at all once the program ends.
+void AskRegisteredFor(const char *mimeType, Answer answer)
 {
-    QProcess query;
-    query.start("xdg-mime", {"query", "default", mimeType});
+    auto *query = new QProcess(qApp);
+    const auto finish = [query, answer = std::move(answer)] {
+        query->disconnect();
+        query->deleteLater();
+        // From an event of its own, so that a failure ends as that of any other event does.
+        QTimer::singleShot(
+            0, qApp, [answer, entry = QString::fromUtf8(query->readAllStandardOutput()).trimmed()] { answer(entry); });
+    };
+    QObject::connect(query, &QProcess::finished, qApp, finish);
+    QObject::connect(query, &QProcess::errorOccurred, qApp, finish);
     constexpr int patience = 3000; // milliseconds
-    return query.waitForFinished(patience) ? QString::fromUtf8(query.readAllStandardOutput()).trimmed() : QString();
-}
-
-bool StartRegisteredTextEditor()
-{
-    const QString name = RegisteredFor("text/plain");
-    return !name.isEmpty()
-        && Start(ReadEntry(QStandardPaths::locate(QStandardPaths::ApplicationsLocation, name)).command);
-}
-
-// Where nothing is registered the desktop's opener starts all the same, and fails unseen.
-bool OpensCompiledHelp()
-{
-#ifdef Q_OS_WIN
-    return true;
-#else
-    return !RegisteredFor("application/vnd.ms-htmlhelp").isEmpty() || !RegisteredFor("application/x-chm").isEmpty();
-#endif
+    QTimer::singleShot(patience, query, &QProcess::kill);
+    query->start(kRegistry, {"query", "default", mimeType});
 }
 
 void OpenOrTell(const QUrl &place)
@@ -107,6 +107,25 @@ void OpenOrTell(const QUrl &place)
                MsgIcon::Exclamation);
 }
 
+void ShowPages(const QString &helpFile)
+{
+    const QFileInfo pages(QFileInfo(helpFile).dir(), "help/index.html");
+    if (pages.exists())
+        OpenOrTell(QUrl::fromLocalFile(pages.filePath()));
+}
+
+void ShowFile(const QString &helpFile)
+{
+    if (!QDesktopServices::openUrl(QUrl::fromLocalFile(helpFile)))
+        ShowPages(helpFile);
+}
+
+void NeedStarted(bool started)
+{
+    if (!started)
+        throw RuntimeError(ErrorNumber::ProgramNotFound);
+}
+
 class Desktop : public Shell
 {
 public:
@@ -114,33 +133,46 @@ public:
 
     void ShowHelp(const QString &file) override
     {
-        if (QFile::exists(file) && OpensCompiledHelp() && QDesktopServices::openUrl(QUrl::fromLocalFile(file)))
+        if (!QFile::exists(file)) {
+            ShowPages(file);
             return;
-        const QFileInfo pages(QFileInfo(file).dir(), "help/index.html");
-        if (pages.exists())
-            OpenOrTell(QUrl::fromLocalFile(pages.filePath()));
+        }
+#ifdef Q_OS_WIN
+        ShowFile(file);
+#else
+        // Where nothing is registered the desktop's opener starts all the same, and fails unseen.
+        AskRegisteredFor("application/vnd.ms-htmlhelp", [file](const QString &entry) {
+            if (!entry.isEmpty())
+                ShowFile(file);
+            else
+                AskRegisteredFor("application/x-chm",
+                                 [file](const QString &other) { other.isEmpty() ? ShowPages(file) : ShowFile(file); });
+        });
+#endif
     }
 
     void StartCalculator() override
     {
 #ifdef Q_OS_WIN
-        const bool started = StartAnyOf({"calc.exe"});
+        NeedStarted(StartAnyOf({"calc.exe"}));
 #else
-        const bool started = StartRegisteredCalculator() || StartAnyOf(kCalculators);
+        NeedStarted(StartRegisteredCalculator() || StartAnyOf(kCalculators));
 #endif
-        if (!started)
-            throw RuntimeError(ErrorNumber::ProgramNotFound);
     }
 
     void StartNotepad() override
     {
 #ifdef Q_OS_WIN
-        const bool started = StartAnyOf({"Notepad.exe"});
+        NeedStarted(StartAnyOf({"Notepad.exe"}));
 #else
-        const bool started = StartRegisteredTextEditor() || StartAnyOf(kTextEditors);
+        if (QStandardPaths::findExecutable(kRegistry).isEmpty())
+            NeedStarted(StartAnyOf(kTextEditors));
+        else
+            AskRegisteredFor("text/plain", [](const QString &entry) {
+                const QString path = QStandardPaths::locate(QStandardPaths::ApplicationsLocation, entry);
+                NeedStarted((!entry.isEmpty() && Start(ReadEntry(path).command)) || StartAnyOf(kTextEditors));
+            });
 #endif
-        if (!started)
-            throw RuntimeError(ErrorNumber::ProgramNotFound);
     }
 };
 

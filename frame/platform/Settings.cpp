@@ -33,12 +33,15 @@ QString Path(std::string_view section, std::string_view key)
 
 std::string GetSetting(std::string_view section, std::string_view key, std::string_view defaultValue)
 {
+    // Another program may have written since.
+    Settings().sync();
     return Settings().value(Path(section, key), Wide(defaultValue)).toString().toStdString();
 }
 
 void SaveSetting(std::string_view section, std::string_view key, std::string_view value)
 {
     const QString path = Path(section, key);
+    Settings().sync();
     // Writing a file again for nothing is what a save would take most of its time for.
     if (Settings().contains(path) && Settings().value(path).toString() == Wide(value))
         return;

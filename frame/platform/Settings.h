@@ -8,7 +8,7 @@ class QSettings;
 
 /// The program's per-user settings by section and key, under the program's name.
 [[nodiscard]] std::string GetSetting(std::string_view section, std::string_view key, std::string_view defaultValue);
-/// Written at once.
+/// Written at once. A write that fails is told to nobody.
 void SaveSetting(std::string_view section, std::string_view key, std::string_view value);
 
 /// Where the settings lie; the user's own place until this is called, and again after a call with none.

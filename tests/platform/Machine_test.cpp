@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSettings>
@@ -36,6 +37,16 @@ TEST(Settings, KeepWhatIsSavedUnderSectionAndKey)
     EXPECT_EQ(GetSetting("Draft Survey Loading", "RecordID", "-1"), "17");
     EXPECT_EQ(GetSetting("Draft Survey Discharging", "RecordID", "-1"), "-1");
     EXPECT_EQ(GetSetting("Options", "Show Tips at Startup", ""), "a, \"b\"; Ä");
+    // Another program writes in between; this one writes the same again, and where it cannot, goes on.
+    std::ofstream(file.toStdString()) << "[Options]\nOther=here\n[Draft%20Survey%20Loading]\nRecordID=4\n";
+    EXPECT_EQ(GetSetting("Draft Survey Loading", "RecordID", "-1"), "4");
+    SaveSetting("Draft Survey Loading", "RecordID", "17");
+    fs::remove(file.toStdString());
+    SaveSetting("Draft Survey Loading", "RecordID", "17");
+    EXPECT_TRUE(fs::exists(file.toStdString()));
+    fs::remove(file.toStdString());
+    fs::create_directories(file.toStdString());
+    SaveSetting("Draft Survey Loading", "RecordID", "18");
     SetSettingsPort(std::make_unique<QSettings>(file + ".next", QSettings::IniFormat));
 }
 
@@ -152,5 +163,14 @@ TEST_F(DesktopTest, StartsTheRegisteredProgramOrOneOfTheUsualNamesOrFails)
     EXPECT_TRUE(Ran("shown.ran"));
     DesktopShell().StartNotepad();
     EXPECT_TRUE(Ran("editor.ran"));
+
+    // The help asks the desktop first, and no window waits for the answer.
+    PutProgram("xdg-mime", "sleep 1; " + Mark("asked.ran"));
+    std::ofstream(Folder() / "KeelmarkHelp.chm") << "pages";
+    QElapsedTimer since;
+    since.start();
+    DesktopShell().ShowHelp(QString::fromStdString((Folder() / "KeelmarkHelp.chm").string()));
+    EXPECT_LT(since.elapsed(), 900);
+    EXPECT_TRUE(Ran("asked.ran"));
 }
 } // namespace
