@@ -1,3 +1,4 @@
+#include "frame/platform/Settings.h"
 #include "tests/masters/HydrostaticDesk.h"
 #include "tests/strength/ChildProcess.h"
 #include "tests/survey/SurveyDesk.h"
@@ -134,6 +135,7 @@ TEST_F(StoredSurveys, KilledAtAnyMomentTheyAreAsBeforeOrAsAfter)
     KillAtRandomMoments(
         kKillsOfSurveys,
         [this] {
+            SaveSetting("Draft Survey Loading", "RecordID", "1");
             Open();
             for (int number = static_cast<int>(Ask("SELECT Cargo FROM DraftParticulars WHERE RecordID = 1").ToLong());
                  ;) {
@@ -143,6 +145,7 @@ TEST_F(StoredSurveys, KilledAtAnyMomentTheyAreAsBeforeOrAsAfter)
                     EnterWorked("V" + QString::number(number));
                     PressSave();
                     PressDelete();
+                    SaveSetting("Draft Survey Loading", "RecordID", "1");
                     Open();
                 }
             }
