@@ -33,6 +33,6 @@ private:
     std::vector<std::string> mCaptions;
 };
 
-/// The shared reports, made at first use. What a filling skips keeps what the last one left there, until Unload.
+/// The shared reports, made at first use.
 [[nodiscard]] Report &drptDraftSurvey();
 [[nodiscard]] Report &drptDSDispatch();

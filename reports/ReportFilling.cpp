@@ -151,6 +151,8 @@ private:
 
 void FillHead(Report &report, std::string_view title, const ReportedSurvey &survey)
 {
+    // Nothing of the survey that was filled in before.
+    report.Unload();
     report.Caption("lblReportTitle", title);
     FillShip(report, survey.ship);
     report.Caption("lblVoyageID", survey.voyage);

@@ -54,12 +54,12 @@ struct ReportedSurvey {
     ReportedShip ship;
     std::string voyage;
     std::string cargo;
-    std::optional<std::string> port; ///< where the survey names none, the label is left alone
+    std::optional<std::string> port; ///< where the survey names none, the design's text stays
     ReportedDraft initial;
     std::optional<ReportedDraft> final;
 };
 
-/// Fill the labels one after another. A figure that was never calculated leaves its unit alone on the label; where a
-/// sum needs one, TypeMismatch (13), and what was filled up to there stays.
+/// Fill the labels one after another; what is not filled shows the design's text. A figure that was never calculated
+/// leaves its unit alone on the label; where a sum needs one, TypeMismatch (13), and what was filled up to there stays.
 void FillLoadportReport(Report &report, const ReportedSurvey &survey);
 void FillDischargePortReport(Report &report, const ReportedSurvey &survey);

@@ -68,7 +68,7 @@ constexpr std::array kHead {
     Single {"lblNetTonnage", "", 4032, 1152, 2448},
     Single {"", "SUMMER DWT", kThird, 1152, 1512, kLine, true},
     Single {"lblSummerDeadweight", "", kThirdFar, 1152, 1152},
-    Single {"", "PORT OF REG", 0, 1368, 1296, kLine, true},
+    Single {"", "PORT OF REG", 0, 1368, 1368, kLine, true},
     Single {"lblPortOfRegistry", "lblPortOfReg", 1368, 1368, 2088},
     Single {"", "OFFICIAL NO.", 3528, 1368, {1368, 1296}, kLine, true},
     Single {"lblOfficialNo", "", kSecondFar, 1368, 1656},

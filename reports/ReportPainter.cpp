@@ -42,51 +42,61 @@ bool HoldsFigure(const QString &text)
     return std::ranges::any_of(text, [](QChar letter) { return letter.isDigit(); });
 }
 
+/// What of a text finds room beside an ellipsis. What is not to be seen is not there to be searched either.
+QString Cut(const QString &text, const QFont &font, double width)
+{
+    return QFontMetricsF(font).elidedText(text, Qt::ElideRight, width);
+}
+
 /// One line. A text that is too wide is set smaller, a figure as far as it takes: a digit cut off would be a wrong
-/// figure. Other texts end at the label's edge when they would no longer be legible.
-void PaintLine(const ReportLabel &label, const QString &text, QPainter &painter)
+/// figure. Other texts are cut when they would no longer be legible.
+void PaintLine(const ReportLabel &label, QString text, QPainter &painter)
 {
     QFont font = FontOf(label);
     double width = QFontMetricsF(font).horizontalAdvance(text);
     if (width > label.width) {
         const double least = HoldsFigure(text) ? 1 : kLeastPoints * kTwipsPerPoint;
         font.setPixelSize(static_cast<int>(std::max(font.pixelSize() * label.width / width, least)));
+        text = Cut(text, font, label.width);
         width = QFontMetricsF(font).horizontalAdvance(text);
-    }
-    const double room = label.width - width;
-    const bool cut = room < 0;
-    if (cut) {
-        painter.save();
-        painter.setClipRect(QRectF(label.left, label.top, label.width, label.height), Qt::IntersectClip);
     }
     painter.setFont(font);
     const double baseline = label.top + QFontMetricsF(FontOf(label)).ascent();
-    painter.drawText(QPointF(label.left + (cut ? 0 : StartOf(label.alignment, room)), baseline), text);
-    if (cut)
-        painter.restore();
+    painter.drawText(QPointF(label.left + StartOf(label.alignment, label.width - width), baseline), text);
 }
 
 /// As many lines as find room in the label's height, save for a trifle, and nothing outside it.
 void PaintLines(const ReportLabel &label, const QString &text, QPainter &painter)
 {
-    QTextLayout layout(text, FontOf(label));
+    const QFont font = FontOf(label);
+    QTextLayout layout(text, font);
     QTextOption option(Horizontal(label.alignment));
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     layout.setTextOption(option);
     double height = 0;
+    int shown = 0;
     layout.beginLayout();
     for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
         line.setLineWidth(label.width);
         line.setPosition(QPointF(0, height));
+        if (height + kRoomOfLine * line.height() <= label.height)
+            ++shown;
         height += line.height();
     }
     layout.endLayout();
     painter.save();
     painter.setClipRect(QRectF(label.left, label.top, label.width, label.height), Qt::IntersectClip);
-    for (int i = 0; i < layout.lineCount(); ++i) {
-        const QTextLine line = layout.lineAt(i);
-        if (line.y() + kRoomOfLine * line.height() <= label.height)
-            line.draw(&painter, QPointF(label.left, label.top));
+    const bool cut = shown < layout.lineCount();
+    for (int i = 0; i < shown - (cut ? 1 : 0); ++i)
+        layout.lineAt(i).draw(&painter, QPointF(label.left, label.top));
+    if (cut && shown > 0) {
+        const QTextLine last = layout.lineAt(shown - 1);
+        const QString rest = text.mid(last.textStart()).replace(QChar::LineSeparator, QLatin1Char(' '));
+        const QString left = Cut(rest.left(last.textLength()).trimmed() + QStringLiteral(" \u2026"), font, label.width);
+        painter.setFont(font);
+        const double room = label.width - QFontMetricsF(font).horizontalAdvance(left);
+        painter.drawText(QPointF(label.left + StartOf(label.alignment, room), label.top + last.y() + last.ascent()),
+                         left);
     }
     painter.restore();
 }

@@ -259,7 +259,6 @@ void ReportPreview::keyPressEvent(QKeyEvent *event)
 
 void ReportPreview::closeEvent(QCloseEvent *event)
 {
-    mReport.Unload();
     OpenPreviews().erase(&mReport);
     QWidget::closeEvent(event);
 }

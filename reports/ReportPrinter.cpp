@@ -18,6 +18,20 @@ void PrintOnDefaultPrinter(const Report &report)
     if (machine.isNull())
         throw RuntimeError(ErrorNumber::PrinterError);
     QPrinter printer(machine, QPrinter::HighResolution);
+    PrintReportOn(printer, report);
+}
+
+PrintPort &Port()
+{
+    static PrintPort port;
+    return port;
+}
+} // namespace
+
+void PrintReportOn(QPrinter &printer, const Report &report)
+{
+    // Whatever the printer is set to: across, the page would be set smaller.
+    printer.setPageOrientation(QPageLayout::Portrait);
     printer.setFullPage(true);
     printer.setDocName(QString::fromUtf8(report.Layout().title.data()));
     QPainter painter;
@@ -29,13 +43,6 @@ void PrintOnDefaultPrinter(const Report &report)
     if (!painter.end() || printer.printerState() == QPrinter::Error)
         throw RuntimeError(ErrorNumber::PrinterError);
 }
-
-PrintPort &Port()
-{
-    static PrintPort port;
-    return port;
-}
-} // namespace
 
 void PrintReport(const Report &report)
 {

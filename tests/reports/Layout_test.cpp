@@ -96,8 +96,7 @@ TEST(ReportLayout, TheDesignsDifferInPlacesAndTexts)
 TEST(ReportLayout, CaptionsHaveRoomForTheirText)
 {
     // Set a trifle smaller, so that the figure beside it stands apart.
-    const std::set<std::string> narrow {"Disp. Corrected for Density", "Displacement in Sea Water", "SUMMER DRAFT",
-                                        "PORT OF REG"};
+    const std::set<std::string> narrow {"Disp. Corrected for Density", "Displacement in Sea Water", "SUMMER DRAFT"};
     for (const ReportLayout *layout : {&LoadportLayout(), &DischargePortLayout()}) {
         for (const ReportLabel &label : layout->labels) {
             QFont font(QStringLiteral("Liberation Sans"));
@@ -112,15 +111,19 @@ TEST(ReportLayout, CaptionsHaveRoomForTheirText)
     }
 }
 
-TEST(Report, KeepsWhatIsFilledUntilItIsUnloaded)
+TEST(ReportFilling, StartsFromTheDesign)
 {
-    Report &report = drptDraftSurvey();
-    report.Caption("lblFinFO", "12 MT");
-    EXPECT_EQ(drptDraftSurvey().Caption("lblFinFO"), "12 MT");
-    EXPECT_EQ(drptDSDispatch().Caption("lblFinFO"), "0 MT");
-    report.Unload();
-    EXPECT_EQ(report.Caption("lblFinFO"), "0 MT");
-    EXPECT_THROW(report.Caption("lblFin", ""), RuntimeError);
+    Report report(DischargePortLayout());
+    ReportedSurvey survey;
+    survey.port = "Saldanha, South Africa";
+    survey.final.emplace().deductions = {{28, Value(2.5)}};
+    survey.final->finalResult.fill(Value::EmptyText());
+    EXPECT_THROW(FillDischargePortReport(report, survey), RuntimeError);
+    EXPECT_EQ(report.Caption("lblFinMisc1"), "2.5 MT");
+    survey = {};
+    FillDischargePortReport(report, survey);
+    for (const char *label : {"lblFinMisc1", "lblFinFwdMeanDraft", "lblPortName"})
+        EXPECT_EQ(report.Caption(label), Label(DischargePortLayout(), label).text);
 }
 
 TEST(ReportFilling, LeavesWhatWasNeverCalculatedBlankAndMakesNoCargoOfIt)

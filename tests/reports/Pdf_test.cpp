@@ -2,11 +2,13 @@
 #include "reports/Report.h"
 #include "reports/ReportPainter.h"
 #include "reports/ReportPdf.h"
+#include "reports/ReportPrinter.h"
 #include "tests/support/TestStore.h"
 
 #include <gmock/gmock.h>
 
 #include <QFile>
+#include <QPrinter>
 #include <QProcess>
 #include <QRegularExpression>
 
@@ -83,9 +85,19 @@ TEST_F(ReportPdf, NoFigureIsCutAndNoTextLeavesItsLabel)
     Save();
     EXPECT_THAT(Text(), HasSubstr("-123456789.1234567891234567 MT"));
     EXPECT_NEAR(Find("-123456789.1234567891234567").left, 3384, 40);
-    EXPECT_THAT(Text(), HasSubstr("Manganese"));
+    EXPECT_THAT(Text(), HasSubstr("Manganese ore"));
+    EXPECT_THAT(Text(), HasSubstr("w\u2026"));
     EXPECT_THAT(Text(), Not(HasSubstr("shipper")));
     EXPECT_THAT(Text(), Not(HasSubstr("end")));
+}
+
+TEST_F(ReportPdf, APrinterSetAcrossPrintsUpright)
+{
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setOutputFileName(mFile);
+    printer.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Landscape, {}));
+    PrintReportOn(printer, mReport);
+    EXPECT_THAT(Asked("pdfinfo", {mFile}).toStdString(), HasSubstr("595 x 842 pts (A4)"));
 }
 
 TEST_F(ReportPdf, AFileThatCannotBeWrittenLeavesTheOldOne)
