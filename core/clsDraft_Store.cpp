@@ -121,8 +121,7 @@ void clsDraft::ReadRow()
     mAftPort = mRow->Fields("AftPortDraft");
     mAftStbd = mRow->Fields("AftStbdDraft");
     mListCorrected = mRow->Fields("ListCorrected").ToBoolean();
-    const Value comments = mRow->Fields("Comments");
-    mComments = comments.IsNull() ? std::string() : comments.Text();
+    mComments = TextOrEmpty(mRow->Fields("Comments"));
 }
 
 void clsDraft::ReadDeductions()

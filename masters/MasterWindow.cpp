@@ -15,7 +15,7 @@ MasterWindow::MasterWindow(const Kind &kind, QWidget *parent)
 {
 }
 
-void MasterWindow::UseControls(QLabel &heading, QWidget &legend, DataList &list, std::vector<Field> fields)
+void MasterWindow::UseControls(QLabel &heading, QWidget &legend, DataList &list, std::vector<StoredBox> fields)
 {
     ScaleFont(heading, kHeadingSize);
     ScaleFont(legend, kLegendSize);
@@ -24,8 +24,8 @@ void MasterWindow::UseControls(QLabel &heading, QWidget &legend, DataList &list,
     connect(mList, &DataList::Click, this, &MasterWindow::ListPicked);
     connect(mList, &DataList::DelPressed, this, &MasterWindow::RDelete);
     mList->installEventFilter(this);
-    for (const Field &field : mFields)
-        field.box->installEventFilter(this);
+    for (const StoredBox &field : mFields)
+        field.Box().installEventFilter(this);
     NameBox().setFocus();
 }
 
@@ -70,8 +70,8 @@ void MasterWindow::StartNewRecord()
 
 void MasterWindow::ClearBoxes()
 {
-    for (const Field &field : mFields)
-        field.box->clear();
+    for (const StoredBox &field : mFields)
+        field.Clear();
 }
 
 void MasterWindow::FillList()
@@ -81,6 +81,8 @@ void MasterWindow::FillList()
 
 void MasterWindow::ListPicked()
 {
+    // A save that was refused is given up, and not tried again by the search.
+    mRecords.CancelUpdate();
     const std::string picked = mList->BoundValue().Text();
     mRecords.Find(std::string(mKind.idColumn) + " = " + picked, 0, Recordset::kSearchForward,
                   Recordset::kBookmarkFirst);
@@ -88,10 +90,8 @@ void MasterWindow::ListPicked()
         return;
     mEditMode = 1;
     SendMask(mKind.pickedMask);
-    for (const Field &field : mFields) {
-        const Value value = mRecords.Fields(field.column);
-        field.box->setText(value.IsNull() ? QString() : QString::fromStdString(value.Text()));
-    }
+    for (const StoredBox &field : mFields)
+        field.Show(mRecords.Fields(field.Column()));
 }
 
 void MasterWindow::RNew()
@@ -134,12 +134,15 @@ MsgAnswer MasterWindow::AskToSave() const
 
 void MasterWindow::SaveRecord()
 {
-    if (mEditMode == 0)
+    // A new record whose save was refused is still there to be written; a change of another one is given up.
+    if (mEditMode == 0 && mRecords.EditMode() != RecordEdit::Add) {
+        mRecords.CancelUpdate();
         mRecords.AddNew();
-    for (const Field &field : mFields)
-        mRecords.Fields(field.column, field.box->text().trimmed().toStdString());
+    }
+    for (const StoredBox &field : mFields)
+        mRecords.Fields(field.Column(), field.Box().text().trimmed().toStdString());
     mRecords.Update();
-    mRecords.Requery();
+    RequeryIfPossible();
     FillList();
     ClearBoxes();
     MsgBox(mEditMode == 0 ? "One record has been added successfully." : "One record has been updated successfully.",
@@ -165,10 +168,19 @@ void MasterWindow::RDelete()
 void MasterWindow::DeleteRecord()
 {
     mRecords.Delete();
-    mRecords.Requery();
+    RequeryIfPossible();
     mRecords.Sort(std::string(mKind.nameColumn) + " ASC");
     FillList();
     ClearBoxes();
     MsgBox("One record has been deleted successfully.", MsgIcon::Exclamation);
     StartNewRecord();
+}
+
+void MasterWindow::RequeryIfPossible()
+{
+    try {
+        mRecords.Requery();
+    } catch (const RuntimeError &) {
+        // The rows in memory serve until the next time.
+    }
 }

@@ -3,6 +3,7 @@
 #include "core/MsgBox.h"
 #include "frame/platform/Form.h"
 #include "frame/store/Recordset.h"
+#include "masters/StoredBox.h"
 
 #include <cstdint>
 #include <string>
@@ -39,17 +40,12 @@ protected:
         std::string_view deleteQuestion;
         MsgAnswer deleteDefault;
     };
-    struct Field {
-        QLineEdit *box;
-        std::string_view column;
-    };
-
     /// The first field is the record's name, which alone must not be empty.
     explicit MasterWindow(const Kind &kind, QWidget *parent);
     /// To be called once, when the window's controls are made.
-    void UseControls(QLabel &heading, QWidget &legend, DataList &list, std::vector<Field> fields);
+    void UseControls(QLabel &heading, QWidget &legend, DataList &list, std::vector<StoredBox> fields);
 
-    [[nodiscard]] QLineEdit &NameBox() const { return *mFields.front().box; }
+    [[nodiscard]] QLineEdit &NameBox() const { return mFields.front().Box(); }
     /// What the message panel says while a text box has the focus.
     [[nodiscard]] virtual QString BoxHint() const = 0;
     virtual void TellLoadFailure() { }
@@ -70,10 +66,12 @@ private:
     [[nodiscard]] MsgAnswer AskToSave() const;
     void SaveRecord();
     void DeleteRecord();
+    /// What was written is written, whether the rows can be fetched again or not.
+    void RequeryIfPossible();
 
     const Kind mKind;
     DataList *mList = nullptr;
-    std::vector<Field> mFields;
+    std::vector<StoredBox> mFields;
     Recordset mRecords;
     /// 0 for a new record, 1 for the recordset's current one.
     std::int16_t mEditMode = 0;

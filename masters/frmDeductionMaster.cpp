@@ -19,7 +19,7 @@ frmDeductionMaster::frmDeductionMaster(QWidget *parent)
     , ui(std::make_unique<Ui::frmDeductionMaster>())
 {
     ui->setupUi(this);
-    UseControls(*ui->lblHeading, *ui->fmeLegend, *ui->dlstItemMaster, {{ui->txtItemName, "ItemName"}});
+    UseControls(*ui->lblHeading, *ui->fmeLegend, *ui->dlstItemMaster, {{*ui->txtItemName, "ItemName"}});
 }
 
 frmDeductionMaster::~frmDeductionMaster() = default;

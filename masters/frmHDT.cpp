@@ -24,11 +24,6 @@ constexpr int kPickRow = 1;
 constexpr int kHintIndent = 6;
 constexpr double kLegendSize = 0.9;
 
-std::string TextOrEmpty(const Value &value)
-{
-    return value.IsNull() ? std::string() : value.Text();
-}
-
 QStringList Captions()
 {
     QStringList captions;
@@ -198,8 +193,6 @@ void frmHDT::dcbShipName_Change()
     if (mEditRow == 1)
         ClearEntryRow();
     mEditRow = 0;
-    // Clearing the entry row takes the focus there; the Tab is to go there from the list.
-    ui->dcbShipName->setFocus();
     rsHDT.Filter(criterion);
     mRowCount = rsHDT.RecordCount();
     // The mask stays as it was for a ship without rows; this is meant.

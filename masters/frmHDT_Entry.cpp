@@ -23,14 +23,9 @@ void TellExclamation(std::string_view text, std::string_view caption = kCaption)
 /// Strictly between the column's bounds. A number too large for a decimal is not.
 std::optional<Value> AcceptedNumber(const std::string &text, const HydrostaticColumn &column)
 {
-    try {
-        const Decimal number = NumericTextToDecimal(text);
-        if (number > Decimal(column.above) && number < Decimal(column.below))
-            return Value(number);
-    } catch (const RuntimeError &error) {
-        if (error.Number() != ErrorNumber::Overflow)
-            throw;
-    }
+    const std::optional<Decimal> number = TypedNumber(text);
+    if (number && *number > Decimal(column.above) && *number < Decimal(column.below))
+        return Value(*number);
     return std::nullopt;
 }
 } // namespace
@@ -242,8 +237,6 @@ void frmHDT::ClearEntryRow()
 {
     for (int column = 0; column < HydrostaticColumn::Count; ++column)
         EntryCell(column, QString());
-    // Nothing of a row is left that a save would ask to be completed.
-    mRowStarted = false;
     txtGridTextbox->clear();
     ui->fgrdInsertHD->SetCurrent(kEntryRow, 0);
     txtGridTextbox->setFocus();

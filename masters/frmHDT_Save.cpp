@@ -109,6 +109,7 @@ void frmHDT::tdbHDT_DeleteDown()
         // The press that made the row current put it into the entry row too. Left there, a save would write it over
         // the row that has taken its place.
         mEditRow = 0;
+        mRowStarted = false;
         ClearEntryRow();
         ui->tdbHDT->setFocus();
     }

@@ -20,7 +20,7 @@ frmPortMaster::frmPortMaster(QWidget *parent)
 {
     ui->setupUi(this);
     UseControls(*ui->lblHeading, *ui->fmeLegend, *ui->dlstPortMaster,
-                {{ui->txtPortName, "PortName"}, {ui->txtCity, "City"}, {ui->txtCountry, "Country"}});
+                {{*ui->txtPortName, "PortName"}, {*ui->txtCity, "City"}, {*ui->txtCountry, "Country"}});
 }
 
 frmPortMaster::~frmPortMaster() = default;

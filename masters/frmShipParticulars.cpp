@@ -9,15 +9,6 @@
 
 #include <algorithm>
 
-namespace
-{
-
-QString StoredText(const Value &value)
-{
-    return value.IsNull() ? QString() : ScreenText(value);
-}
-} // namespace
-
 frmShipParticulars::frmShipParticulars(QWidget *parent)
     : Form(parent)
     , ui(std::make_unique<Ui::frmShipParticulars>())
@@ -35,22 +26,21 @@ frmShipParticulars::~frmShipParticulars() = default;
 
 void frmShipParticulars::CollectTextBoxes()
 {
-    const QLatin1String prefix("txt");
-    for (QLineEdit *box : findChildren<QLineEdit *>()) {
-        const QString name = box->objectName();
-        if (name.startsWith(prefix))
-            mTextBoxes.push_back({box, name.mid(prefix.size()).toStdString(), box->maxLength()});
-    }
-}
-
-// A longer text from the store has raised the limit for itself alone.
-void frmShipParticulars::LowerLimit(const TextBox &text)
-{
-    if (text.box->maxLength() == text.limit)
-        return;
-    const int cursor = text.box->cursorPosition();
-    text.box->setMaxLength(std::max(text.limit, static_cast<int>(text.box->text().size())));
-    text.box->setCursorPosition(cursor);
+    mTextBoxes = {{*ui->txtCallSign, "CallSign"},
+                  {*ui->txtFlag, "Flag"},
+                  {*ui->txtOfficialNo, "OfficialNo"},
+                  {*ui->txtIMONo, "IMONo"},
+                  {*ui->txtSummerDraft, "SummerDraft"},
+                  {*ui->txtSummerDeadweight, "SummerDeadweight"},
+                  {*ui->txtGrossTonnage, "GrossTonnage"},
+                  {*ui->txtNetTonnage, "NetTonnage"},
+                  {*ui->txtLBP, "LBP"},
+                  {*ui->txtLOA, "LOA"},
+                  {*ui->txtBreadth, "Breadth"},
+                  {*ui->txtFwdX, "FwdX"},
+                  {*ui->txtMidX, "MidX"},
+                  {*ui->txtAftX, "AftX"},
+                  {*ui->txtLightShip, "LightShip"}};
 }
 
 void frmShipParticulars::ConnectEvents()
@@ -58,10 +48,8 @@ void frmShipParticulars::ConnectEvents()
     // Meant: a name that is typed changes nothing by itself, only a name that is picked does.
     connect(ui->cmbShipName, &QComboBox::activated, this, &frmShipParticulars::cmbShipName_Click);
     connect(ui->dcbPortOfRegistry, &DataCombo::Changed, this, &frmShipParticulars::FieldChanged);
-    for (const TextBox &text : mTextBoxes) {
-        connect(text.box, &QLineEdit::textChanged, this, &frmShipParticulars::FieldChanged);
-        connect(text.box, &QLineEdit::textEdited, this, [text] { LowerLimit(text); });
-    }
+    for (const StoredBox &text : mTextBoxes)
+        connect(&text.Box(), &QLineEdit::textChanged, this, &frmShipParticulars::FieldChanged);
     ConnectChecks();
 }
 
@@ -126,25 +114,18 @@ void frmShipParticulars::ShowFirstShip()
 
 void frmShipParticulars::ShowShip()
 {
-    ui->cmbShipName->SetText(StoredText(rsShip.Fields("ShipName")));
+    ui->cmbShipName->SetText(ScreenText(TextOrEmpty(rsShip.Fields("ShipName"))));
     ui->dcbPortOfRegistry->SetBoundValue(rsShip.Fields("PortOfRegistry"));
-    for (const TextBox &text : mTextBoxes) {
-        const QString stored = StoredText(rsShip.Fields(text.column));
-        // The limit is for typing: a number that came into the store otherwise must not lose its last digits.
-        text.box->setMaxLength(std::max(text.limit, static_cast<int>(stored.size())));
-        text.box->setText(stored);
-        text.box->setCursorPosition(0);
-    }
+    for (const StoredBox &text : mTextBoxes)
+        text.Show(rsShip.Fields(text.Column()));
 }
 
 void frmShipParticulars::ClearShip()
 {
     ui->cmbShipName->SetText({});
     ui->dcbPortOfRegistry->SetText({});
-    for (const TextBox &text : mTextBoxes) {
-        text.box->setMaxLength(text.limit);
-        text.box->clear();
-    }
+    for (const StoredBox &text : mTextBoxes)
+        text.Clear();
 }
 
 void frmShipParticulars::cmbShipName_Click()

@@ -2,6 +2,7 @@
 
 #include "frame/platform/Form.h"
 #include "frame/store/Recordset.h"
+#include "masters/StoredBox.h"
 
 #include <array>
 #include <cstdint>
@@ -40,12 +41,6 @@ public:
     [[nodiscard]] std::int32_t Save();
 
 private:
-    /// A text box, the column it shows and how much may be typed into it.
-    struct TextBox {
-        QLineEdit *box;
-        std::string column;
-        int limit;
-    };
     /// What one number field accepts, and what is said of all else.
     struct NumberRule {
         const char *field;
@@ -61,7 +56,6 @@ private:
     using ColumnValue = std::pair<std::string_view, std::string>;
 
     void CollectTextBoxes();
-    static void LowerLimit(const TextBox &text);
     void ConnectEvents();
 
     void InitShipForm();
@@ -89,7 +83,7 @@ private:
     void DeleteShip();
 
     std::unique_ptr<Ui::frmShipParticulars> ui;
-    std::vector<TextBox> mTextBoxes;
+    std::vector<StoredBox> mTextBoxes;
     Recordset rsShip; ///< all ships; the current row is the one on show
     Recordset rsPort; ///< all ports, for the list
     std::int16_t mRecordMode = 0; ///< 0: the fields describe a new ship, 1: the current row of rsShip

@@ -11,18 +11,6 @@ namespace
 {
 constexpr std::string_view kCaption = "Ship Particulars";
 constexpr std::int64_t kTenDigits = 10000000000;
-
-/// The decimal of a typed number; nothing where it lies out of a decimal's range.
-std::optional<Value> NumberOf(const std::string &text, std::int16_t places)
-{
-    try {
-        return Val2Dec(text, places);
-    } catch (const RuntimeError &error) {
-        if (error.Number() != ErrorNumber::Overflow)
-            throw;
-        return std::nullopt;
-    }
-}
 } // namespace
 
 const std::array<frmShipParticulars::NumberRule, 13> frmShipParticulars::kNumberRules {{
@@ -70,10 +58,12 @@ bool frmShipParticulars::Accepts(const NumberRule &rule)
         return true;
     if (!IsNumericText(text))
         return refuse("Invalid value. Only numbers are allowed.");
-    const std::optional<Value> number = NumberOf(text, rule.places);
-    if (!number || *number <= Value(Decimal(rule.above)) || *number >= Value(Decimal(rule.below)))
+    std::optional<Decimal> number = TypedNumber(text);
+    if (number && rule.places >= 0)
+        number = number->Round(rule.places);
+    if (!number || *number <= Decimal(rule.above) || *number >= Decimal(rule.below))
         return refuse(rule.message);
-    ShowValue(field, Round(*number, rule.shownPlaces));
+    ShowValue(field, Value(number->Round(rule.shownPlaces)));
     return true;
 }
 

@@ -160,6 +160,5 @@ std::string SurveyLists::PortText(const Value &portID)
         mRsPort.Requery();
         find();
     }
-    const Value country = mRsPort.Fields("Country");
-    return mRsPort.Fields("PortName").Text() + ", " + (country.IsNull() ? std::string() : country.Text());
+    return mRsPort.Fields("PortName").Text() + ", " + TextOrEmpty(mRsPort.Fields("Country"));
 }

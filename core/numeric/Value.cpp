@@ -310,6 +310,11 @@ Value ZeroIfAbsent(const Value &value)
     return value.IsAbsent() ? Value::Zero() : value;
 }
 
+std::string TextOrEmpty(const Value &value)
+{
+    return value.IsNull() ? std::string() : value.Text();
+}
+
 Value Abs(const Value &value)
 {
     Value number = AsNumber(value);

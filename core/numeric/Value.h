@@ -113,6 +113,9 @@ private:
 /// The value, or Zero for one that is absent.
 [[nodiscard]] Value ZeroIfAbsent(const Value &value);
 
+/// The default text; empty for Null, as the store has it where there is nothing.
+[[nodiscard]] std::string TextOrEmpty(const Value &value);
+
 /// The magnitude of a number; its kind stays.
 [[nodiscard]] Value Abs(const Value &value);
 

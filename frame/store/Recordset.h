@@ -13,6 +13,9 @@
 enum class CursorType : std::uint8_t { Keyset = 1, Dynamic = 2, Static = 3 };
 enum class LockType : std::uint8_t { ReadOnly = 1, Optimistic = 3, BatchOptimistic = 4 };
 
+/// What is pending in a recordset until Update: nothing, a change of the current row, or a new row.
+enum class RecordEdit : std::uint8_t { None, Change, Add };
+
 /// Names a row of one recordset; valid until that set is closed, requeried or opened again.
 using Bookmark = std::int64_t;
 
@@ -86,6 +89,7 @@ public:
     void AddNew();
     void Update();
     void CancelUpdate();
+    [[nodiscard]] RecordEdit EditMode() const;
     /// Removes the current row (1: this row only). It stays current, but gone, until the set moves: its fields raise
     /// NoCurrentRow, it counts no more, and MoveNext goes to the row that followed it (or the end).
     void Delete(int affected = 1);

@@ -17,7 +17,7 @@ struct WriteTarget {
 
 /// What an open Recordset holds.
 struct Recordset::Rows {
-    enum class Edit : std::uint8_t { None, Change, Add };
+    using Edit = RecordEdit;
     struct SortOrder {
         std::size_t column = 0;
         bool descending = false;

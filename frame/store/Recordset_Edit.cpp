@@ -213,6 +213,11 @@ void Recordset::CancelUpdate()
     Opened().CancelUpdate();
 }
 
+RecordEdit Recordset::EditMode() const
+{
+    return Opened().edit;
+}
+
 void Recordset::Delete(int affected)
 {
     if (affected != 1)

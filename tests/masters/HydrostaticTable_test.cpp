@@ -320,7 +320,7 @@ TEST_F(HydrostaticTable, AnotherShipAsksAboutTheRows)
     AskToSave(MsgAnswer::No);
     PickShip(Qt::Key_Down);
     EXPECT_EQ(Entry() + Box(), "") << "a picked row goes with its ship";
-    EXPECT_EQ(Focus(), "txtGridTextbox");
+    EXPECT_EQ(Focus(), "tdbHDT");
     EXPECT_EQ(Shown(), "");
     SaveWell();
     ClickEntry(0);

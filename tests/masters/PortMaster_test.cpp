@@ -181,20 +181,25 @@ TEST_F(PortMaster, ARefusedPortIsStillThereToBeMendedOrGivenUp)
     PressSave();
     EXPECT_THAT(Rows(), ElementsAre("Aarhus", "Cadiz", "Durban"));
 
-    // A refused new row refuses the next as well, until it is cancelled.
-    Fill("txtPortName", "Bad");
-    AskToSave(kAdd, MsgAnswer::Yes);
-    TellNotSaved();
-    PressSave();
+    // A refused new row is the one that the next save writes, also after New; Del only gives it up.
+    const auto refuse = [this](const char *question) {
+        Fill("txtPortName", "Bad");
+        AskToSave(question, MsgAnswer::Yes);
+        TellNotSaved();
+        PressSave();
+    };
+    refuse(kAdd);
+    Press(Qt::Key_N, Qt::ControlModifier);
     Fill("txtPortName", "Good");
-    AskToSave(kAdd, MsgAnswer::Yes);
-    TellNotSaved();
-    PressSave();
-    AskToSave(kAdd, MsgAnswer::Cancel);
-    PressSave();
     AskToSave(kAdd, MsgAnswer::Yes);
     Tell(kAdded);
     PressSave();
+    EXPECT_THAT(Rows(), ElementsAre("Aarhus", "Cadiz", "Durban", "Good"));
+    refuse(kAdd);
+    AskToDelete(MsgAnswer::Yes);
+    Tell(kDeleted);
+    List().setFocus();
+    Press(Qt::Key_Delete);
     EXPECT_THAT(Rows(), ElementsAre("Aarhus", "Cadiz", "Durban", "Good"));
 
     ClickRow(1);
@@ -202,14 +207,54 @@ TEST_F(PortMaster, ARefusedPortIsStillThereToBeMendedOrGivenUp)
     TellNotDeleted();
     PressDeleteButton();
     EXPECT_EQ(CommandsOn() + Boxes(), "110011Cadiz|Cadiz|");
-    Fill("txtPortName", "Bad");
+    refuse(kChange);
+    ClickRow(0);
+    EXPECT_EQ(Boxes(), "Aarhus||Denmark") << "a pick gives up what was refused";
+    // A refused change is not made of the next new port.
+    refuse(kChange);
+    Press(Qt::Key_N, Qt::ControlModifier);
+    Fill("txtPortName", "New");
+    AskToSave(kAdd, MsgAnswer::Yes);
+    Tell(kAdded);
+    PressSave();
+    EXPECT_THAT(Rows(), ElementsAre("Aarhus", "Cadiz", "Durban", "Good", "New"));
+}
+
+TEST_F(PortMaster, ALockedStoreEndsNothingAndStoresNothingTwice)
+{
+    OpenWithPorts();
+    Run("PRAGMA busy_timeout = 0");
+    Connection other;
+    other.Open(File());
+    other.Execute("BEGIN EXCLUSIVE");
+    Fill("txtPortName", "Oban");
+    AskToSave(kAdd, MsgAnswer::Yes);
+    TellNotSaved();
+    PressSave();
+    ClickRow(2);
+    EXPECT_EQ(Boxes(), "Durban|Durban|South Africa");
+    Fill("txtPortName", "Richards Bay");
     AskToSave(kChange, MsgAnswer::Yes);
     TellNotSaved();
     PressSave();
-    FatalRecorder ended;
+    other.Execute("ROLLBACK");
+    AskToSave(kChange, MsgAnswer::Yes);
+    Tell(kChanged);
+    PressSave();
+    EXPECT_THAT(Rows(), ElementsAre("aalborg", "Cadiz", "Richards Bay"));
+}
+
+TEST_F(PortMaster, ATextLongerThanItsBoxComesBackWhole)
+{
+    Run("INSERT INTO Port (PortName, Country) VALUES ('Aden', 'The Republic of Yemen')");
+    Open();
     ClickRow(0);
-    EXPECT_THAT(ended.Numbers(), ElementsAre(StoreError::StatementFailed)) << "a pick traps nothing";
-    EXPECT_EQ(Ask("SELECT COUNT(*) FROM Port WHERE PortName = 'Bad'").ToLong(), 0);
+    EXPECT_EQ(Boxes(), "Aden||The Republic of Yemen");
+    Fill("txtCity", "Aden");
+    AskToSave(kChange, MsgAnswer::Yes);
+    Tell(kChanged);
+    PressSave();
+    EXPECT_EQ(Stored(), "1:Aden/Aden/The Republic of Yemen");
 }
 
 TEST_F(PortMaster, HintsFollowTheFocusAndTheLastWindowLeavesTheOpenHint)
