@@ -24,7 +24,6 @@ clsDraft::Results::Results()
 }
 
 clsDraft::clsDraft()
-    : mRow(std::make_unique<Recordset>())
 {
     NewDraft();
     InitDeductions();
@@ -114,7 +113,7 @@ void clsDraft::Deduction(const Value &itemID, const Value &quantity)
         mDeductions->push_back({itemID, quantity});
 }
 
-std::vector<ItemQuantity> &clsDraft::Quantities()
+const std::vector<ItemQuantity> &clsDraft::Quantities() const
 {
     if (!mDeductions)
         throw RuntimeError(StoreError::WrongState, "The quantities of the draft could not be read.");

@@ -83,6 +83,8 @@ public:
     [[nodiscard]] bool IsThere() const { return mHasRecord || mToSave; }
     /// The quantities of this draft, kept in memory until SaveDraft; null where they could not be read.
     [[nodiscard]] const std::vector<ItemQuantity> *Deductions() const { return mDeductions ? &*mDeductions : nullptr; }
+    /// The same; WrongState where they could not be read.
+    [[nodiscard]] const std::vector<ItemQuantity> &Quantities() const;
     /// Sets an item's quantity; nothing where they could not be read.
     void Deduction(const Value &itemID, const Value &quantity);
 
@@ -170,8 +172,6 @@ private:
     /// The quantities of a draft in the store; none of the draft before stay where they cannot be had.
     void OpenDeductions(std::int32_t draftID);
     Value GetTotDeductibles();
-    /// The quantities; wrong state where they could not be read.
-    [[nodiscard]] std::vector<ItemQuantity> &Quantities();
     void AddQuantities(Value &total);
 
     void CalculateDrafts();
@@ -189,7 +189,7 @@ private:
     [[nodiscard]] std::string InsertStatement(std::int32_t recordID) const;
     [[nodiscard]] std::string UpdateStatement() const;
     void SaveDeductions();
-    void ReadRow();
+    void ReadRow(const Recordset &row);
     void ReadDeductions();
 
     std::int32_t mDraftID = -1;
@@ -211,5 +211,4 @@ private:
     clsShip mShip;
     std::unique_ptr<clsHydrostaticData> mHydrostatics;
     std::optional<std::vector<ItemQuantity>> mDeductions;
-    std::unique_ptr<Recordset> mRow;
 };

@@ -74,7 +74,7 @@ void clsDraft::SaveDeductions()
             gConnection->Execute("INSERT INTO DeductionTrans (DraftID, ItemID, Quantity) VALUES("
                                  + std::to_string(mDraftID) + ", " + each.itemID.SqlText() + ", "
                                  + each.quantity.SqlText() + ")");
-    std::erase_if(Quantities(), [](const ItemQuantity &each) { return IsZero(each.quantity); });
+    std::erase_if(*mDeductions, [](const ItemQuantity &each) { return IsZero(each.quantity); });
 }
 
 std::int32_t clsDraft::GetDraft(std::int32_t recordID, const std::string &date, const std::string &time)
@@ -88,13 +88,13 @@ try {
         statement += " AND [DateTime] = (SELECT MAX([DateTime]) FROM DraftDetails WHERE RecordID = " + record
             + " AND DraftType = 2)";
 
-    mRow = std::make_unique<Recordset>();
-    mRow->Open(statement, CursorType::Keyset, LockType::Optimistic);
-    if (mRow->RecordCount() < 1) {
+    Recordset row;
+    row.Open(statement, CursorType::Keyset, LockType::Optimistic);
+    if (row.RecordCount() < 1) {
         NewDraft();
         return ReturnCode::NoSuchDraft;
     }
-    ReadRow();
+    ReadRow(row);
     ReadDeductions();
     mDraftMode = 1;
     mHasRecord = true;
@@ -106,22 +106,22 @@ try {
     return ReturnCode::GetDraftFailed;
 }
 
-void clsDraft::ReadRow()
+void clsDraft::ReadRow(const Recordset &row)
 {
-    mDraftID = mRow->Fields("DraftID").ToLong();
-    mRecordID = mRow->Fields("RecordID").ToLong();
-    mSpecificGravity = mRow->Fields("SpecificGravity");
-    const Value stamp = mRow->Fields("DateTime");
+    mDraftID = row.Fields("DraftID").ToLong();
+    mRecordID = row.Fields("RecordID").ToLong();
+    mSpecificGravity = row.Fields("SpecificGravity");
+    const Value stamp = row.Fields("DateTime");
     mDSDate = StampToDate(stamp);
     mDSTime = StampToTime(stamp);
-    mFwdPort = mRow->Fields("FwdPortDraft");
-    mFwdStbd = mRow->Fields("FwdStbdDraft");
-    mMidPort = mRow->Fields("MidshipPortDraft");
-    mMidStbd = mRow->Fields("MidshipStbdDraft");
-    mAftPort = mRow->Fields("AftPortDraft");
-    mAftStbd = mRow->Fields("AftStbdDraft");
-    mListCorrected = mRow->Fields("ListCorrected").ToBoolean();
-    mComments = TextOrEmpty(mRow->Fields("Comments"));
+    mFwdPort = row.Fields("FwdPortDraft");
+    mFwdStbd = row.Fields("FwdStbdDraft");
+    mMidPort = row.Fields("MidshipPortDraft");
+    mMidStbd = row.Fields("MidshipStbdDraft");
+    mAftPort = row.Fields("AftPortDraft");
+    mAftStbd = row.Fields("AftStbdDraft");
+    mListCorrected = row.Fields("ListCorrected").ToBoolean();
+    mComments = TextOrEmpty(row.Fields("Comments"));
 }
 
 void clsDraft::ReadDeductions()

@@ -1,5 +1,7 @@
 #include "reports/ReportFilling.h"
 
+#include "core/HullDeflection.h"
+#include "core/Survey.h"
 #include "reports/Report.h"
 
 #include <QString>
@@ -24,40 +26,39 @@ constexpr std::array kItemLabels {ItemLabel {2, "FO"},     ItemLabel {3, "DO"}, 
 
 constexpr std::size_t kTrueDisplacement = 7;
 constexpr std::size_t kTotalDeductibles = 8;
-constexpr std::size_t kNetDisplacement = 9;
 
 Value Rounded(const Value &value, int places)
 {
     return value.IsAbsent() ? value : Round(value, places);
 }
 
-void FillShip(Report &report, const ReportedShip &ship)
+void FillShip(Report &report, const clsShip &ship, const std::string &portOfRegistry)
 {
     const auto fill = [&report](std::string_view label, const Value &value, std::string_view unit = {}) {
         report.Caption(label, value.Text().append(unit));
     };
-    fill("lblShipName", QString::fromStdString(ship.name).toUpper().toStdString());
-    fill("lblCallSign", ship.callSign);
-    fill("lblGrossTonnage", ship.grossTonnage);
-    fill("lblPortOfRegistry", ship.portOfRegistry);
-    fill("lblNetTonnage", ship.netTonnage);
-    fill("lblOfficialNo", ship.officialNo);
-    fill("lblSummerDraft", ship.summerDraft, kMetres);
-    fill("lblFlag", ship.flag);
-    fill("lblSummerDeadweight", ship.summerDeadweight, kTonnes);
-    fill("lblLOA", ship.loa, kMetres);
-    fill("lblBreadth", ship.breadth, kMetres);
-    fill("lblFwdX", ship.fwdX, kMetres);
-    fill("lblLBP", ship.lbp, kMetres);
-    fill("lblLightShip", ship.lightShip, kTonnes);
-    fill("lblAftX", ship.aftX, kMetres);
+    fill("lblShipName", QString::fromStdString(ship.ShipName()).toUpper().toStdString());
+    fill("lblCallSign", ship.CallSign());
+    fill("lblGrossTonnage", ship.GrossTonnage());
+    fill("lblPortOfRegistry", portOfRegistry);
+    fill("lblNetTonnage", ship.NetTonnage());
+    fill("lblOfficialNo", ship.OfficialNo());
+    fill("lblSummerDraft", ship.SummerDraft(), kMetres);
+    fill("lblFlag", ship.Flag());
+    fill("lblSummerDeadweight", ship.SummerDeadweight(), kTonnes);
+    fill("lblLOA", ship.LOA(), kMetres);
+    fill("lblBreadth", ship.Breadth(), kMetres);
+    fill("lblFwdX", ship.FwdX(), kMetres);
+    fill("lblLBP", ship.LBP(), kMetres);
+    fill("lblLightShip", ship.LightShip(), kTonnes);
+    fill("lblAftX", ship.AftX(), kMetres);
 }
 
 /// One of the two columns of figures.
 class Column
 {
 public:
-    Column(Report &report, std::string_view prefix, const ReportedDraft &draft)
+    Column(Report &report, std::string_view prefix, const clsDraft &draft)
         : mReport(report)
         , mPrefix(prefix)
         , mDraft(draft)
@@ -67,14 +68,14 @@ public:
     /// totalDeductibles: what the first row of that name shows.
     void Fill(const Value &totalDeductibles) const
     {
-        Fill("Date", mDraft.date);
-        Fill("Time", mDraft.time);
+        Fill("Date", mDraft.DSDate());
+        Fill("Time", mDraft.DSTime());
         FillDeductions();
         FillDrafts();
         FillHydrostatics();
         Fill("TotDeductibles", totalDeductibles, kTonnes);
         FillDisplacements();
-        Fill("Comments", mDraft.comments);
+        Fill("Comments", mDraft.Comments());
     }
 
 private:
@@ -85,8 +86,8 @@ private:
 
     void FillDeductions() const
     {
-        for (const auto &[itemID, quantity] : mDraft.deductions) {
-            const auto label = std::ranges::find(kItemLabels, itemID, &ItemLabel::itemID);
+        for (const auto &[itemID, quantity] : mDraft.Quantities()) {
+            const auto label = std::ranges::find(kItemLabels, itemID.ToLong(), &ItemLabel::itemID);
             if (label != kItemLabels.end())
                 Fill(label->ending, quantity, kTonnes);
         }
@@ -94,37 +95,33 @@ private:
 
     void FillDrafts() const
     {
-        Fill("FwdMeanDraft", Rounded(mDraft.fwdMean, 3), kMetres);
-        Fill("FwdCorrection", Rounded(mDraft.fwdCorrection, 3), kMetres);
-        Fill("CorrDraftFwd", Rounded(mDraft.fwdTrueDraft, 3), kMetres);
-        Fill("AftMeanDraft", Rounded(mDraft.aftMean, 3), kMetres);
-        Fill("AftCorrection", Rounded(mDraft.aftCorrection, 3), kMetres);
-        Fill("CorrDraftAft", Rounded(mDraft.aftTrueDraft, 3), kMetres);
-        const bool measured = !mDraft.fwdMean.IsAbsent();
-        Fill("FwdAftMean", measured ? (mDraft.fwdMean + mDraft.aftMean) / Value(std::int16_t {2}) : Value(), kMetres);
-        Fill("MidPortDraft", mDraft.midPort, kMetres);
-        Fill("MidStbdDraft", mDraft.midStbd, kMetres);
-        Fill("MeanMidDraft", Rounded(mDraft.midMean, 3), kMetres);
+        Fill("FwdMeanDraft", Rounded(mDraft.FwdMean(), 3), kMetres);
+        Fill("FwdCorrection", Rounded(mDraft.FwdCorrection(), 3), kMetres);
+        Fill("CorrDraftFwd", Rounded(mDraft.FwdTrueDraft(), 3), kMetres);
+        Fill("AftMeanDraft", Rounded(mDraft.AftMean(), 3), kMetres);
+        Fill("AftCorrection", Rounded(mDraft.AftCorrection(), 3), kMetres);
+        Fill("CorrDraftAft", Rounded(mDraft.AftTrueDraft(), 3), kMetres);
+        const bool measured = !mDraft.FwdMean().IsAbsent();
+        Fill("FwdAftMean", measured ? (mDraft.FwdMean() + mDraft.AftMean()) / Value(std::int16_t {2}) : Value(),
+             kMetres);
+        Fill("MidPortDraft", mDraft.MidPort(), kMetres);
+        Fill("MidStbdDraft", mDraft.MidStbd(), kMetres);
+        Fill("MeanMidDraft", Rounded(mDraft.MidMean(), 3), kMetres);
         if (measured)
             FillDeflection();
-        Fill("TrueMeanDraft", Rounded(mDraft.trueMeanDraft, 8), kMetres);
+        Fill("TrueMeanDraft", Rounded(mDraft.TrueMeanDraft(), 8), kMetres);
     }
 
-    /// Centimetres by which the midships draft is above (sag) or below (hog) the mean of the ends.
     void FillDeflection() const
     {
-        const Value zero(std::int16_t {0});
-        const Value deflection
-            = Value(std::int16_t {50}) * (Value(std::int16_t {2}) * mDraft.midMean - mDraft.aftMean - mDraft.fwdMean);
-        if (deflection > zero)
-            Fill("Deflection", "Sag " + deflection.Text() + " cm");
-        else if (deflection < zero)
-            Fill("Deflection", "Hog " + (Value(std::int16_t {-1}) * deflection).Text() + " cm");
+        const Value deflection = HullDeflection(mDraft.FwdMean(), mDraft.MidMean(), mDraft.AftMean());
+        if (deflection != Value::Zero())
+            Fill("Deflection", DeflectionWord(deflection) + (" " + Abs(deflection).Text()) + " cm");
     }
 
     void FillHydrostatics() const
     {
-        const auto &[displacement, tpc, lcf, mctcPlus50, mctcMinus50] = mDraft.hydrostatics;
+        const auto &[displacement, tpc, lcf, mctcPlus50, mctcMinus50] = mDraft.IpResult()[1];
         Fill("TPC", tpc);
         Fill("LCF", lcf);
         Fill("dMCTC", mctcPlus50.IsAbsent() ? Value() : mctcPlus50 - mctcMinus50);
@@ -132,78 +129,86 @@ private:
 
     void FillDisplacements() const
     {
-        const auto &items = mDraft.finalResult;
+        const auto &items = mDraft.FinalResult();
         Fill("DispInSeaWater", Rounded(items[0], 5), kTonnes);
         Fill("1stTrimCorr", Rounded(items[1], 4), kTonnes);
         Fill("2ndTrimCorr", Rounded(items[2], 4), kTonnes);
         Fill("TotTrimCorr", Rounded(items[3], 4), kTonnes);
         Fill("DispAtEvenKeel", Rounded(items[5], 5), kTonnes);
-        Fill("Density", mDraft.density);
+        Fill("Density", mDraft.SpecificGravity());
         Fill("TrueDisplacement", Rounded(items[kTrueDisplacement], 5), kTonnes);
         Fill("TotDeductibles2", Rounded(items[kTotalDeductibles], 5), kTonnes);
-        Fill("NGDisp", Rounded(items[kNetDisplacement], 5), kTonnes);
+        Fill("NGDisp", Rounded(mDraft.NetDisplacement(), 5), kTonnes);
     }
 
     Report &mReport;
     std::string_view mPrefix;
-    const ReportedDraft &mDraft;
+    const clsDraft &mDraft;
 };
 
-void FillHead(Report &report, std::string_view title, const ReportedSurvey &survey)
+void FillHead(Report &report, std::string_view title, const Survey &survey, const ReportedHeader &header)
 {
     // Nothing of the survey that was filled in before.
     report.Unload();
     report.Caption("lblReportTitle", title);
-    FillShip(report, survey.ship);
-    report.Caption("lblVoyageID", survey.voyage);
-    report.Caption("lblCargo", survey.cargo);
-    if (survey.port)
-        report.Caption("lblPortName", *survey.port);
+    FillShip(report, survey.Ship(), header.portOfRegistry);
+    report.Caption("lblVoyageID", header.voyage);
+    report.Caption("lblCargo", header.cargo);
+    if (header.port)
+        report.Caption("lblPortName", *header.port);
 }
 
-void FillInitial(Report &report, const ReportedDraft &draft)
+const Value &NetDisplacementOf(const Survey &survey, const Stage &stage)
 {
-    Column(report, "lblInit", draft).Fill(Rounded(draft.finalResult[kTotalDeductibles], 5));
+    return survey.Draft(stage).NetDisplacement();
 }
 
-void FillFinal(Report &report, const ReportedDraft &draft)
+void FillInitial(Report &report, const Survey &survey)
 {
+    const clsDraft &draft = survey.Draft(Stage::Initial);
+    Column(report, "lblInit", draft).Fill(Rounded(draft.FinalResult()[kTotalDeductibles], 5));
+}
+
+void FillFinal(Report &report, const Survey &survey)
+{
+    const clsDraft &draft = survey.Draft(Stage::Final);
     // The net displacement in the total's row, and meant to be.
-    Column(report, "lblFin", draft).Fill(Rounded(draft.finalResult[kNetDisplacement], 5));
+    Column(report, "lblFin", draft).Fill(Rounded(draft.NetDisplacement(), 5));
 }
 
-void FillConstant(Report &report, const ReportedDraft &draft, const ReportedShip &ship)
+void FillConstant(Report &report, const Survey &survey, const Stage &stage)
 {
-    report.Caption("lblConstant", (draft.finalResult[kNetDisplacement] - ship.lightShip).Text().append(kTonnes));
+    const Value constant = NetDisplacementOf(survey, stage) - survey.Ship().LightShip();
+    report.Caption("lblConstant", constant.Text().append(kTonnes));
 }
 
-void FillCargo(Report &report, const ReportedDraft &heavier, const ReportedDraft &lighter)
+void FillCargo(Report &report, const Survey &survey, const Stage &heavier, const Stage &lighter)
 {
-    const Value cargo = heavier.finalResult[kNetDisplacement] - lighter.finalResult[kNetDisplacement];
+    const Value cargo = NetDisplacementOf(survey, heavier) - NetDisplacementOf(survey, lighter);
     report.Caption("lblTotCargoLoaded", Round(cargo, 5).Text().append(kTonnes));
 }
 } // namespace
 
-void FillLoadportReport(Report &report, const ReportedSurvey &survey)
+void FillLoadportReport(Report &report, const Survey &survey, const ReportedHeader &header)
 {
-    FillHead(report, "LOADPORT DRAFT SURVEY REPORT", survey);
-    FillInitial(report, survey.initial);
-    FillConstant(report, survey.initial, survey.ship);
-    if (survey.final) {
-        FillFinal(report, *survey.final);
-        FillCargo(report, *survey.final, survey.initial);
+    FillHead(report, "LOADPORT DRAFT SURVEY REPORT", survey, header);
+    FillInitial(report, survey);
+    FillConstant(report, survey, Stage::Initial);
+    if (survey.Draft(Stage::Final).IsThere()) {
+        FillFinal(report, survey);
+        FillCargo(report, survey, Stage::Final, Stage::Initial);
     }
-    report.Caption("lblShipName2", survey.ship.name);
+    report.Caption("lblShipName2", survey.Ship().ShipName());
 }
 
-void FillDischargePortReport(Report &report, const ReportedSurvey &survey)
+void FillDischargePortReport(Report &report, const Survey &survey, const ReportedHeader &header)
 {
-    FillHead(report, "DISCHARGE PORT DRAFT SURVEY REPORT", survey);
-    FillInitial(report, survey.initial);
-    if (survey.final) {
-        FillFinal(report, *survey.final);
-        FillConstant(report, *survey.final, survey.ship);
-        FillCargo(report, survey.initial, *survey.final);
+    FillHead(report, "DISCHARGE PORT DRAFT SURVEY REPORT", survey, header);
+    FillInitial(report, survey);
+    if (survey.Draft(Stage::Final).IsThere()) {
+        FillFinal(report, survey);
+        FillConstant(report, survey, Stage::Final);
+        FillCargo(report, survey, Stage::Initial, Stage::Final);
     }
-    report.Caption("lblShipName2", survey.ship.name);
+    report.Caption("lblShipName2", survey.Ship().ShipName());
 }

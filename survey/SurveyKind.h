@@ -10,7 +10,7 @@ class QWidget;
 class Report;
 class StagePanel;
 class SurveyLists;
-struct ReportedSurvey;
+struct ReportedHeader;
 
 /// What a panel of cargo figures works with: the parts of its window.
 struct SurveyParts {
@@ -40,7 +40,7 @@ struct SurveyKind {
     const char *keptFields; ///< text boxes that ClearTextBoxes leaves alone
     StagePanel *(*makePanel)(const SurveyParts &parts);
     Report &(*report)();
-    void (*fillReport)(Report &report, const ReportedSurvey &survey);
+    void (*fillReport)(Report &report, const Survey &survey, const ReportedHeader &header);
 
     bool checksFigures; ///< a draft is valid only with a constant and a net displacement in their ranges
     bool checksBeforeAnswer; ///< New Daily checks the drafts whatever the answer, and starts one where a check fails

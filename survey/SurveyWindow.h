@@ -18,6 +18,7 @@
 
 class QCheckBox;
 class QLineEdit;
+struct ReportedHeader;
 
 /// The window in which one survey is entered, calculated, saved and deleted: one voyage of one ship at one port, in
 /// one direction. One set of controls serves the three stages; the active tab decides which draft they show.
@@ -106,6 +107,9 @@ private:
     void ListCorrection_Click(const Stage &stage);
     /// Sets a list correction box by program, which runs its click where it changes and mNoEvents is down.
     void SetListCorrection(const Stage &stage, bool on);
+
+    /// Run-time errors for a ship or port that cannot be read.
+    [[nodiscard]] ReportedHeader ReportHeader();
 
     // Saving
     [[nodiscard]] bool ValidDrafts();

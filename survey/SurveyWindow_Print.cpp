@@ -1,8 +1,8 @@
 #include "reports/Report.h"
+#include "reports/ReportFilling.h"
 #include "reports/ReportPreview.h"
 #include "reports/ReportPrinter.h"
 #include "survey/SurveyMessages.h"
-#include "survey/SurveyReport.h"
 #include "survey/SurveyWindow.h"
 
 namespace
@@ -18,6 +18,18 @@ bool SurveyWindow::AnyToPrint() const
         || (mKind.anyDraftPrints && (mSurvey.Draft(Stage::Daily).IsThere() || mSurvey.Draft(Stage::Final).IsThere()));
 }
 
+ReportedHeader SurveyWindow::ReportHeader()
+{
+    const SurveyHeader header = mHeader.Read();
+    ReportedHeader reported {.voyage = header.voyageID,
+                             .cargo = header.cargo,
+                             .portOfRegistry = mLists.PortText(mSurvey.Ship().PortOfRegistry()),
+                             .port = {}};
+    if (!header.portID.IsAbsent())
+        reported.port = mLists.PortText(header.portID);
+    return reported;
+}
+
 void SurveyWindow::RPrint(bool blnShowPreview)
 try {
     if (!Calculate())
@@ -27,7 +39,7 @@ try {
         TellExclamation(blnShowPreview ? "No valid draft for preview." : "No valid draft for printing.");
         return;
     }
-    mKind.fillReport(mKind.report(), ReportOf(mSurvey, mHeader.Read(), mLists));
+    mKind.fillReport(mKind.report(), mSurvey, ReportHeader());
     if (blnShowPreview) {
         ShowReport(mKind.report(), window());
         return;
@@ -35,7 +47,7 @@ try {
     HideReport(mKind.report());
     PrintReport(mKind.report());
 } catch (const RuntimeError &) {
-    // Half filled, it may hold figures of two surveys.
+    // A page that is half filled is no report.
     HideReport(mKind.report());
     MsgBox(kPrintFailure, MsgIcon::Critical, mKind.printFailureCaption);
 }

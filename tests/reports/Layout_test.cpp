@@ -1,6 +1,7 @@
-#include "core/numeric/RuntimeError.h"
+#include "core/Survey.h"
 #include "reports/Report.h"
 #include "reports/ReportFilling.h"
+#include "tests/support/TestStore.h"
 
 #include <gmock/gmock.h>
 
@@ -111,33 +112,35 @@ TEST(ReportLayout, CaptionsHaveRoomForTheirText)
     }
 }
 
-TEST(ReportFilling, StartsFromTheDesign)
+class ReportFilling : public TestStore
 {
-    Report report(DischargePortLayout());
-    ReportedSurvey survey;
-    survey.port = "Saldanha, South Africa";
-    survey.final.emplace().deductions = {{28, Value(2.5)}};
-    survey.final->finalResult.fill(Value::EmptyText());
-    EXPECT_THROW(FillDischargePortReport(report, survey), RuntimeError);
-    EXPECT_EQ(report.Caption("lblFinMisc1"), "2.5 MT");
-    survey = {};
-    FillDischargePortReport(report, survey);
-    for (const char *label : {"lblFinMisc1", "lblFinFwdMeanDraft", "lblPortName"})
-        EXPECT_EQ(report.Caption(label), Label(DischargePortLayout(), label).text);
-}
+protected:
+    ReportFilling()
+        : TestStore(StoreContent::Sample)
+    {
+        EXPECT_TRUE(mSurvey.SetShip(Value(1)));
+    }
 
-TEST(ReportFilling, LeavesWhatWasNeverCalculatedBlankAndMakesNoCargoOfIt)
+    Report mReport {DischargePortLayout()};
+    Survey mSurvey {{.isLoading = "False", .noConstant = ""}};
+};
+
+TEST_F(ReportFilling, StartsFromTheDesignAndMakesNoCargoOfWhatWasNeverCalculated)
 {
-    Report report(DischargePortLayout());
-    ReportedSurvey survey;
-    FillDischargePortReport(report, survey);
-    EXPECT_EQ(report.Caption("lblInitFwdMeanDraft"), " m");
-    EXPECT_EQ(report.Caption("lblInitDeflection"), "0 cm");
-    EXPECT_EQ(report.Caption("lblInitNGDisp"), " MT");
-    EXPECT_EQ(report.Caption("lblConstant"), "");
-    survey.initial.finalResult.fill(Value::EmptyText());
-    survey.final = survey.initial;
-    EXPECT_THROW(FillDischargePortReport(report, survey), RuntimeError);
-    EXPECT_THROW(FillLoadportReport(report, survey), RuntimeError);
+    clsDraft &final = mSurvey.Draft(Stage::Final);
+    final.Deduction(Value(28), Value(2.5));
+    final.ToSave(true);
+    const ReportedHeader header {.voyage = "V1", .cargo = "Coal", .portOfRegistry = "Saldanha", .port = "Durban"};
+    EXPECT_EQ(ErrorOf([&] { FillDischargePortReport(mReport, mSurvey, header); }), ErrorNumber::TypeMismatch);
+    EXPECT_EQ(ErrorOf([&] { FillLoadportReport(mReport, mSurvey, header); }), ErrorNumber::TypeMismatch);
+    EXPECT_EQ(ErrorOf([&] { FillDischargePortReport(mReport, mSurvey, header); }), ErrorNumber::TypeMismatch);
+    EXPECT_EQ(mReport.Caption("lblFinMisc1"), "2.5 MT");
+
+    mSurvey.New();
+    FillDischargePortReport(mReport, mSurvey, {});
+    for (const char *label : {"lblFinMisc1", "lblFinFwdMeanDraft", "lblPortName", "lblConstant", "lblInitDeflection"})
+        EXPECT_EQ(mReport.Caption(label), Label(DischargePortLayout(), label).text);
+    EXPECT_EQ(mReport.Caption("lblInitFwdMeanDraft"), " m");
+    EXPECT_EQ(mReport.Caption("lblInitNGDisp"), " MT");
 }
 } // namespace
