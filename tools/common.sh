@@ -1,7 +1,7 @@
 # The parts that ./run, ./test and ./bench share. Sourced from the root of the repository.
 
 # One package a word; where systems name it differently, the names stand in order of preference with a bar between.
-buildPackages=(g++ cmake ninja-build pkg-config\|pkgconf libsqlite3-dev qt6-base-dev libgl-dev
+buildPackages=(g++ cmake ninja-build libboost-dev pkg-config\|pkgconf libsqlite3-dev qt6-base-dev libgl-dev
     qt6-svg-dev\|libqt6svg6-dev qt6-svg-plugins\|libqt6svg6 fonts-liberation)
 benchPackages=(libbenchmark-dev)
 testPackages=(libgtest-dev libgmock-dev "${benchPackages[@]}" clang-format-14\|clang-format poppler-utils sqlite3 git)

@@ -1,7 +1,7 @@
 #include "core/numeric/Decimal.h"
 
+#include "core/numeric/Exact.h"
 #include "core/numeric/RuntimeError.h"
-#include "core/numeric/WideInteger.h"
 
 #include <algorithm>
 #include <limits>
@@ -9,13 +9,17 @@
 
 namespace
 {
-constexpr int kWordCount = 3;
-constexpr int kDigitBits = 32 * kWordCount;
+constexpr unsigned kDigitBits = 96;
 /// 10^29 is above 2^96.
 constexpr int kDigitsThatOverflow = 29;
 /// Scales beyond those of a product come from read text alone, which keeps at most this many digits: of a number whose
 /// scale is that far past kMaxScale nothing is left.
 constexpr int kMostDigitsRead = 36;
+
+int BitLength(const WideInteger &number)
+{
+    return number.is_zero() ? 0 : static_cast<int>(msb(number)) + 1;
+}
 
 /// floor(bits * log10(2)) for the sizes that occur here.
 constexpr int DigitsInBits(int bits)
@@ -26,20 +30,33 @@ constexpr int DigitsInBits(int bits)
 /// Half to even; `more` says that `number` itself was cut short.
 WideInteger RoundedQuotient(const WideInteger &number, const WideInteger &divisor, bool more = false)
 {
-    WideInteger remainder = number;
-    WideInteger quotient = remainder.DivideToRemainder(divisor);
-    remainder += remainder;
-    const auto half = remainder <=> divisor;
-    if (half > 0 || (half == 0 && (more || quotient.IsOdd())))
-        quotient += WideInteger {1};
+    WideInteger quotient;
+    WideInteger remainder;
+    divide_qr(number, divisor, quotient, remainder);
+    const int half = (remainder << 1).compare(divisor);
+    if (half > 0 || (half == 0 && (more || bit_test(quotient, 0))))
+        ++quotient;
     return quotient;
 }
 
-std::array<std::uint32_t, kWordCount> LowWords(const WideInteger &number)
+std::array<std::uint32_t, 3> LowWords(const WideInteger &number)
 {
-    return {number.Word(0), number.Word(1), number.Word(2)};
+    constexpr std::uint32_t all = 0xFFFFFFFF;
+    return {static_cast<std::uint32_t>(number & all), static_cast<std::uint32_t>((number >> 32) & all),
+            static_cast<std::uint32_t>((number >> 64) & all)};
 }
 } // namespace
+
+const WideInteger &PowerOfTen(std::int64_t exponent)
+{
+    static const auto powers = [] {
+        std::array<WideInteger, 58> made {1};
+        for (std::size_t i = 1; i < made.size(); ++i)
+            made[i] = made[i - 1] * 10U;
+        return made;
+    }();
+    return powers[static_cast<std::size_t>(exponent)];
+}
 
 Decimal::Decimal(std::int64_t value)
     : mNegative(value < 0)
@@ -49,18 +66,29 @@ Decimal::Decimal(std::int64_t value)
     mDigits = {static_cast<std::uint32_t>(magnitude), static_cast<std::uint32_t>(magnitude >> 32), 0};
 }
 
-Decimal Decimal::Fitted(const WideInteger &digits, std::int64_t scale, bool negative, bool more)
+Decimal::Exact Decimal::ToExact(int scale) const
 {
-    if (digits.IsZero() || scale > kMaxScale + kMostDigitsRead)
+    WideInteger digits = Low64();
+    if (!FitsWord64())
+        digits |= WideInteger {mDigits[2]} << 64;
+    if (scale > mScale)
+        digits *= PowerOfTen(scale - mScale);
+    return {.digits = digits, .scale = scale, .negative = mNegative};
+}
+
+Decimal Decimal::Fitted(const Exact &exact)
+{
+    const auto &[digits, scale, negative, more] = exact;
+    if (digits.is_zero() || scale > kMaxScale + kMostDigitsRead)
         return {};
     if (scale < 0) {
         if (scale < -kDigitsThatOverflow)
             throw RuntimeError(ErrorNumber::Overflow);
-        return Fitted(digits * PowerOfTen(-scale), 0, negative, more);
+        return Fitted({.digits = digits * PowerOfTen(-scale), .negative = negative, .more = more});
     }
 
     std::int64_t dropped = std::max<std::int64_t>(0, scale - kMaxScale);
-    const int excess = digits.BitLength() - kDigitBits;
+    const int excess = BitLength(digits) - static_cast<int>(kDigitBits);
     if (excess > 0)
         dropped = std::max<std::int64_t>(dropped, DigitsInBits(excess - 1) + 1);
     if (dropped == 0)
@@ -68,7 +96,7 @@ Decimal Decimal::Fitted(const WideInteger &digits, std::int64_t scale, bool nega
 
     for (; dropped <= scale; ++dropped) {
         const WideInteger rounded = RoundedQuotient(digits, PowerOfTen(dropped), more);
-        if (rounded.Size() <= kWordCount)
+        if (BitLength(rounded) <= static_cast<int>(kDigitBits))
             return {LowWords(rounded), static_cast<int>(scale - dropped), negative};
     }
     throw RuntimeError(ErrorNumber::Overflow);
@@ -78,12 +106,13 @@ Decimal Decimal::WithoutTrailingZeros() const
 {
     Decimal shorter = *this;
     for (const int places : {8, 4, 2, 1}) {
-        const auto power = PowerOfTen(places).Word(0);
         while (shorter.mScale >= places && (shorter.mDigits[0] & ((1U << places) - 1)) == 0) {
-            WideInteger digits {shorter.mDigits};
-            if (digits.DivideBy(power) != 0)
+            WideInteger quotient;
+            WideInteger remainder;
+            divide_qr(shorter.ToExact(0).digits, PowerOfTen(places), quotient, remainder);
+            if (!remainder.is_zero())
                 break;
-            shorter = {LowWords(digits), shorter.mScale - places, mNegative};
+            shorter = {LowWords(quotient), shorter.mScale - places, mNegative};
         }
     }
     return shorter;
@@ -110,7 +139,7 @@ Decimal Decimal::Round(int places) const
         throw RuntimeError(ErrorNumber::InvalidCall);
     if (mScale <= places)
         return *this;
-    const WideInteger rounded = RoundedQuotient(WideInteger {mDigits}, PowerOfTen(mScale - places));
+    const WideInteger rounded = RoundedQuotient(ToExact(0).digits, PowerOfTen(mScale - places));
     return {LowWords(rounded), places, mNegative};
 }
 
@@ -127,19 +156,16 @@ std::int64_t Decimal::ToInt64() const
 Decimal operator+(const Decimal &left, const Decimal &right)
 {
     const int scale = std::max(left.mScale, right.mScale);
-    WideInteger larger = WideInteger {left.mDigits} * PowerOfTen(scale - left.mScale);
-    WideInteger smaller = WideInteger {right.mDigits} * PowerOfTen(scale - right.mScale);
+    Decimal::Exact larger = left.ToExact(scale);
+    Decimal::Exact smaller = right.ToExact(scale);
     if (left.mNegative == right.mNegative) {
-        larger += smaller;
-        return Decimal::Fitted(larger, scale, left.mNegative);
+        larger.digits += smaller.digits;
+    } else {
+        if (larger.digits < smaller.digits)
+            std::swap(larger, smaller);
+        larger.digits -= smaller.digits;
     }
-    bool negative = left.mNegative;
-    if (larger < smaller) {
-        std::swap(larger, smaller);
-        negative = right.mNegative;
-    }
-    larger -= smaller;
-    return Decimal::Fitted(larger, scale, negative);
+    return Decimal::Fitted(larger);
 }
 
 Decimal operator-(const Decimal &left, const Decimal &right)
@@ -149,8 +175,9 @@ Decimal operator-(const Decimal &left, const Decimal &right)
 
 Decimal operator*(const Decimal &left, const Decimal &right)
 {
-    return Decimal::Fitted(WideInteger {left.mDigits} * WideInteger {right.mDigits}, left.mScale + right.mScale,
-                           left.mNegative != right.mNegative);
+    return Decimal::Fitted({.digits = left.ToExact(0).digits * right.ToExact(0).digits,
+                            .scale = left.mScale + right.mScale,
+                            .negative = left.mNegative != right.mNegative});
 }
 
 Decimal operator/(const Decimal &left, const Decimal &right)
@@ -161,17 +188,19 @@ Decimal operator/(const Decimal &left, const Decimal &right)
         return {};
 
     // One digit more than fits, so that the last one is rounded from the exact quotient.
-    const WideInteger divisor {right.mDigits};
-    WideInteger remainder {left.mDigits};
-    const int bitsMissing = kDigitBits + 1 + divisor.BitLength() - remainder.BitLength();
+    const WideInteger divisor = right.ToExact(0).digits;
+    const WideInteger dividend = left.ToExact(0).digits;
+    const int bitsMissing = static_cast<int>(kDigitBits) + 1 + BitLength(divisor) - BitLength(dividend);
     const int scale = left.mScale - right.mScale;
     const int power = std::min(DigitsInBits(bitsMissing) + 1, Decimal::kMaxScale + 1 - scale);
-    remainder = remainder * PowerOfTen(power);
-    const WideInteger quotient = remainder.DivideToRemainder(divisor);
-
-    const bool exact = remainder.IsZero();
-    const Decimal result = Decimal::Fitted(quotient, scale + power, left.mNegative != right.mNegative, !exact);
-    return exact ? result.WithoutTrailingZeros() : result;
+    Decimal::Exact quotient;
+    quotient.scale = scale + power;
+    quotient.negative = left.mNegative != right.mNegative;
+    WideInteger remainder;
+    divide_qr(WideInteger(dividend * PowerOfTen(power)), divisor, quotient.digits, remainder);
+    quotient.more = !remainder.is_zero();
+    const Decimal result = Decimal::Fitted(quotient);
+    return quotient.more ? result : result.WithoutTrailingZeros();
 }
 
 std::strong_ordering Decimal::CompareMagnitudes(const Decimal &left, const Decimal &right)
@@ -182,8 +211,7 @@ std::strong_ordering Decimal::CompareMagnitudes(const Decimal &left, const Decim
         return left.Low64() <=> right.Low64();
     }
     const int scale = std::max(left.mScale, right.mScale);
-    return WideInteger {left.mDigits} * PowerOfTen(scale - left.mScale)
-        <=> WideInteger {right.mDigits} * PowerOfTen(scale - right.mScale);
+    return left.ToExact(scale).digits.compare(right.ToExact(scale).digits) <=> 0;
 }
 
 std::strong_ordering operator<=>(const Decimal &left, const Decimal &right)

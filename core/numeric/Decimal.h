@@ -6,8 +6,6 @@
 #include <string>
 #include <string_view>
 
-class WideInteger;
-
 /// An exact decimal number: a sign, a 96-bit integer and a power-of-ten scale from 0 to 28.
 ///
 /// Sums, differences and products that need more digits than fit are rounded once, half to even, into what fits;
@@ -17,6 +15,7 @@ class Decimal
 {
 public:
     static constexpr int kMaxScale = 28;
+    struct Exact; ///< the room's own: a result before it is rounded
 
     constexpr Decimal() = default;
     explicit Decimal(std::int64_t value);
@@ -61,9 +60,9 @@ private:
         , mNegative(negative && digits != Words {})
     {
     }
-    /// `digits` times 10^-scale, rounded once into what fits. `more` says that there are digits past those given.
-    [[nodiscard]] static Decimal Fitted(const WideInteger &digits, std::int64_t scale, bool negative,
-                                        bool more = false);
+    [[nodiscard]] Exact ToExact(int scale) const;
+    /// Rounded once into what fits.
+    [[nodiscard]] static Decimal Fitted(const Exact &exact);
     [[nodiscard]] static std::strong_ordering CompareMagnitudes(const Decimal &left, const Decimal &right);
     [[nodiscard]] bool FitsWord64() const noexcept { return mDigits[2] == 0; }
     [[nodiscard]] std::uint64_t Low64() const noexcept { return std::uint64_t {mDigits[1]} << 32 | mDigits[0]; }

@@ -1,7 +1,7 @@
 #include "core/numeric/Decimal.h"
 
+#include "core/numeric/Exact.h"
 #include "core/numeric/RuntimeError.h"
-#include "core/numeric/WideInteger.h"
 
 #include <algorithm>
 #include <charconv>
@@ -33,27 +33,22 @@ public:
     {
     }
 
-    /// False where the text is no number.
-    [[nodiscard]] bool Read()
+    /// Nothing where the text is no number.
+    [[nodiscard]] std::optional<Decimal::Exact> Read()
     {
         SkipBlanks();
         if (!Take('+'))
-            mNegative = Take('-');
+            mExact.negative = Take('-');
         const bool whole = ReadDigits(0);
         const bool fraction = Take('.') && ReadDigits(1);
         if (!whole && !fraction)
-            return false;
+            return std::nullopt;
         if ((Take('E') || Take('e')) && !ReadExponent())
-            return false;
+            return std::nullopt;
         SkipBlanks();
         Flush();
-        return mAt == mText.size();
+        return mAt == mText.size() ? std::optional(mExact) : std::nullopt;
     }
-
-    [[nodiscard]] const WideInteger &Digits() const { return mDigits; }
-    [[nodiscard]] std::int64_t Scale() const { return mScale; }
-    [[nodiscard]] bool Negative() const { return mNegative; }
-    [[nodiscard]] bool More() const { return mMore; }
 
 private:
     static constexpr int kMostKept = 36;
@@ -86,11 +81,11 @@ private:
         const std::size_t start = mAt;
         while (const auto digit = TakeDigit()) {
             if (mKept == kMostKept) {
-                mMore = mMore || *digit != 0;
-                mScale += places - 1;
+                mExact.more = mExact.more || *digit != 0;
+                mExact.scale += places - 1;
             } else {
                 Keep(*digit);
-                mScale += places;
+                mExact.scale += places;
             }
         }
         return mAt != start;
@@ -108,8 +103,8 @@ private:
 
     void Flush()
     {
-        mDigits = mDigits * PowerOfTen(mPendingCount);
-        mDigits += WideInteger {mPending};
+        mExact.digits *= PowerOfTen(mPendingCount);
+        mExact.digits += mPending;
         mPending = 0;
         mPendingCount = 0;
     }
@@ -121,19 +116,16 @@ private:
         std::int64_t exponent = 0;
         while (const auto digit = TakeDigit())
             exponent = std::min(exponent * 10 + *digit, kEndlessExponent);
-        mScale += negative ? exponent : -exponent;
+        mExact.scale += negative ? exponent : -exponent;
         return mAt != start;
     }
 
     std::string_view mText;
     std::size_t mAt = 0;
-    WideInteger mDigits;
+    Decimal::Exact mExact;
     std::uint64_t mPending = 0;
     int mPendingCount = 0;
     int mKept = 0;
-    std::int64_t mScale = 0;
-    bool mNegative = false;
-    bool mMore = false;
 };
 
 /// The whole number n where magnitude is the double nearest to n / 10^places and n has at most 15 digits: then those
@@ -160,23 +152,23 @@ Decimal Decimal::FromDouble(double value)
             continue;
         for (; places > 0 && *digits % 10 == 0; --places)
             *digits /= 10;
-        return Fitted(WideInteger {*digits}, places, negative);
+        return Fitted({.digits = *digits, .scale = places, .negative = negative});
     }
 
     std::array<char, 32> text {};
     const auto end = std::to_chars(text.data(), text.data() + text.size(), magnitude, std::chars_format::scientific,
                                    kSignificant - 1);
-    DigitReader reader({text.data(), static_cast<std::size_t>(end.ptr - text.data())});
-    (void)reader.Read();
-    return Fitted(reader.Digits(), reader.Scale(), negative).WithoutTrailingZeros();
+    Exact exact = *DigitReader({text.data(), static_cast<std::size_t>(end.ptr - text.data())}).Read();
+    exact.negative = negative;
+    return Fitted(exact).WithoutTrailingZeros();
 }
 
 Decimal Decimal::Parse(std::string_view text)
 {
-    DigitReader reader(text);
-    if (!reader.Read())
+    const std::optional<Exact> exact = DigitReader(text).Read();
+    if (!exact)
         throw RuntimeError(ErrorNumber::TypeMismatch);
-    return Fitted(reader.Digits(), reader.Scale(), reader.Negative(), reader.More());
+    return Fitted(*exact);
 }
 
 double Decimal::ToDouble() const
@@ -193,23 +185,14 @@ double Decimal::ToDouble() const
 
 std::string Decimal::Text() const
 {
-    // Wide divisions are dear: each takes as many digits as a word holds.
-    constexpr std::uint32_t kGroup = 1'000'000'000;
-    constexpr int kDigitsOfGroup = 9;
-    std::string reversed;
-    WideInteger rest {mDigits};
-    std::uint32_t group = 0;
-    for (int place = 0; group != 0 || !rest.IsZero() || place <= mScale; ++place) {
-        if (place % kDigitsOfGroup == 0)
-            group = rest.DivideBy(kGroup);
-        const auto digit = static_cast<char>('0' + group % 10);
-        group /= 10;
-        if (place == mScale && !reversed.empty())
-            reversed.push_back('.');
-        if (place >= mScale || digit != '0' || !reversed.empty())
-            reversed.push_back(digit);
+    std::string text = FitsWord64() ? std::to_string(Low64()) : ToExact(0).digits.str();
+    if (mScale != 0) {
+        const std::size_t places = mScale;
+        text.insert(0, text.size() <= places ? places + 1 - text.size() : 0, '0');
+        text.insert(text.size() - places, 1, '.');
+        text.erase(text.find_last_not_of('0') + 1);
+        if (text.back() == '.')
+            text.pop_back();
     }
-    if (mNegative)
-        reversed.push_back('-');
-    return {reversed.rbegin(), reversed.rend()};
+    return mNegative ? '-' + text : text;
 }
