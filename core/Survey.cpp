@@ -104,8 +104,10 @@ Survey::Found Survey::GetDrafts()
         return code == ReturnCode::NoSuchDraft ? Found::NoInitial : Found::InitialBroken;
     for (const Stage &stage : {Stage::Daily, Stage::Final}) {
         const std::int32_t laterCode = Draft(stage).GetDraft(mRecordID, "", "");
-        if (laterCode != ReturnCode::Success && laterCode != ReturnCode::NoSuchDraft)
-            return Found::LaterBroken;
+        if (laterCode == ReturnCode::Success || laterCode == ReturnCode::NoSuchDraft)
+            continue;
+        NewDrafts(stage);
+        return Found::LaterBroken;
     }
     mHeaderDirty = false;
     return Found::All;
@@ -113,11 +115,17 @@ Survey::Found Survey::GetDrafts()
 
 void Survey::NewDraftsUnder(std::int32_t recordID)
 {
-    // The drafts of the survey before must not be written over under this one.
-    for (clsDraft &draft : mDrafts)
-        draft.NewDraft();
+    NewDrafts(Stage::Initial);
     mRecordID = recordID;
     mMode = 1;
+}
+
+// The drafts of the survey before must not be written over under this one.
+void Survey::NewDrafts(const Stage &first)
+{
+    const UnsaidMessages quiet;
+    for (int tab = first.Tab(); tab < std::ssize(mDrafts); ++tab)
+        Draft(Stage::OfTab(tab)).NewDraft();
 }
 
 std::optional<std::string> Survey::StoredCargo()
@@ -134,13 +142,14 @@ bool Survey::WorkOutDrafts(const Stage &shown)
     bool shownChanged = false;
     for (const Stage &stage : Stage::All()) {
         clsDraft &draft = Draft(stage);
-        const Value before = draft.NetDisplacement();
+        // By the light ship that it was worked out with: she may be another ship's by now.
+        const bool givesConstant = stage == Stage::Initial && mConstant.IsNumber() && draft.NetDisplacement().IsNumber()
+            && mConstant == draft.NetDisplacement() - draft.FinalResult()[10];
         if (!draft.ToSave() || !draft.Recalculate())
             continue;
         // The figures of the later stages, and the constant, rest on the Initial draft.
         shownChanged = shownChanged || stage == shown || stage == Stage::Initial;
-        if (stage == Stage::Initial && mConstant.IsNumber() && mConstant != Value(std::int16_t {0})
-            && mConstant == before - mShip.LightShip())
+        if (givesConstant)
             mConstant = draft.NetDisplacement() - mShip.LightShip();
     }
     return shownChanged;

@@ -63,7 +63,8 @@ public:
 
     /// The row that a statement finds becomes the survey's own; nothing where there is none. Statement failures go up.
     [[nodiscard]] std::optional<SurveyHeader> Find(const std::string &statement);
-    /// Brings up the drafts of the row that was found.
+    /// Brings up the drafts of the row that was found, up to the first that cannot be read: it and what follows are
+    /// new.
     [[nodiscard]] Found GetDrafts();
     /// A survey that has its row and no drafts, to be completed.
     void NewDraftsUnder(std::int32_t recordID);
@@ -85,6 +86,8 @@ private:
     void WriteHeader(const SurveyHeader &header);
     [[nodiscard]] std::int32_t WriteDrafts();
     [[nodiscard]] static std::int32_t GetNewRecordID();
+    /// The drafts of a tab and of those after it begin anew.
+    void NewDrafts(const Stage &first);
     /// After a save was rolled back: the row of a survey that is not in the store must not lend its cargo.
     void ForgetUnsavedRow();
     void CloseRow();

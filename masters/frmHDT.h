@@ -78,7 +78,6 @@ private:
     // The rows
     void tdbHDT_PostEvent(int message);
     void tdbHDT_DeleteDown();
-    [[nodiscard]] bool IsDataRow(std::optional<std::int32_t> row) const;
 
     void WriteTable();
 
@@ -91,6 +90,7 @@ private:
     std::int32_t mRowCount = 0;
     std::int32_t mShipID = 0;
     std::int32_t mEditRow = 0; ///< 1: the entry row holds a row picked from tdbHDT; 0: a new row
+    std::int32_t mPickedRow = 0; ///< where mEditRow is 1: the row in arrHDT
     /// Meant: whichever row has the typed draft, a replace writes over the first one of the table.
     static constexpr std::int16_t mReplaceRow = 0;
     bool mCellChanged = false; ///< a value of the entry row reached its cell

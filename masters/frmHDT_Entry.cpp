@@ -162,11 +162,6 @@ bool frmHDT::IsNewTMD(const std::string &value) const
     return !arrHDT.Find(HydrostaticColumn::HydDraft, value);
 }
 
-bool frmHDT::IsDataRow(std::optional<std::int32_t> row) const
-{
-    return row && *row >= 0 && *row < arrHDT.UpperRow();
-}
-
 void frmHDT::CommitRow()
 {
     if (!ValidRow())
@@ -184,11 +179,9 @@ void frmHDT::CommitRow()
                         kProgramTitle);
         return;
     } else {
-        // The picked row may be gone by now; what was made of it must not vanish in the empty row at the end.
-        if (const std::optional<std::int32_t> row = ui->tdbHDT->Bookmark(); IsDataRow(row))
+        // Meant: the row that is current by now, whichever was picked.
+        if (const std::optional<std::int32_t> row = ui->tdbHDT->Bookmark())
             WriteEntry(*row);
-        else
-            AppendRow();
         mEditRow = 0;
     }
     arrHDT.Sort(0, mRowCount - 1, HydrostaticColumn::HydDraft);
@@ -248,6 +241,7 @@ void frmHDT::tdbHDT_PostEvent(int /*message*/)
     if (!row || arrHDT.IsEmptyRow(*row))
         return;
     mEditRow = 1;
+    mPickedRow = *row;
     for (int column = 0; column < HydrostaticColumn::Count; ++column)
         EntryCell(column, ScreenText(arrHDT.Cell(*row, column)));
     txtGridTextbox->setText(EntryCell(ui->fgrdInsertHD->CurrentColumn()));

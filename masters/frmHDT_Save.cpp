@@ -89,6 +89,8 @@ try {
     rsHDT.Requery();
     mRowCount = 0;
     EmptyTable();
+    // A picked row went with them: what is typed now is a new one.
+    mEditRow = 0;
     ClearEntryRow();
 } catch (const RuntimeError &) {
     MsgBox("An internal error has occured while deleting the Hydrostatic data for the current ship.\n\n"
@@ -105,7 +107,9 @@ void frmHDT::tdbHDT_DeleteDown()
     // mRowCount stays, so that a row typed after this leaves an empty one among the rows, which the store refuses: the
     // table is to be saved and picked again first. This is meant.
     mTableChanged = true;
-    if (mEditRow == 1) {
+    if (mEditRow == 1 && mPickedRow > *row)
+        --mPickedRow;
+    if (mEditRow == 1 && mPickedRow == *row) {
         // The press that made the row current put it into the entry row too. Left there, a save would write it over
         // the row that has taken its place.
         mEditRow = 0;

@@ -65,6 +65,9 @@ void DeductionGrid::LeaveCell()
 {
     const int row = fgrdDeduction.CurrentRow();
     const QString text = txtGridTextbox->text();
+    // Blank from a refusal is not cleared.
+    if (mRefusalBlanked && text.isEmpty())
+        return;
     if (text.trimmed().compare(fgrdDeduction.Cell(row, kQuantityColumn), Qt::CaseInsensitive) != 0)
         fgrdDeduction.SetCell(row, kQuantityColumn,
                               text.isEmpty() ? QString() : ScreenText(Round(DecimalOf(text), kQuantityPlaces)));
@@ -175,9 +178,9 @@ void DeductionGrid::Show(const clsDraft &draft, bool zeroFilled)
 
 bool DeductionGrid::Collect(clsDraft &draft)
 {
-    bool refused = false;
-    Validate(refused);
-    if (refused)
+    mRefused = false;
+    Validate(mRefused);
+    if (mRefused)
         return false;
     if (mRsItems.State() != 1)
         return true;
@@ -188,4 +191,21 @@ bool DeductionGrid::Collect(clsDraft &draft)
             draft.Deduction(mRsItems.Fields("ItemID"), DecimalOrZero(quantity));
     }
     return true;
+}
+
+QStringList DeductionGrid::Quantities() const
+{
+    QStringList quantities;
+    for (int row = 0; row < fgrdDeduction.rowCount(); ++row)
+        quantities.append(fgrdDeduction.Cell(row, kQuantityColumn));
+    return quantities;
+}
+
+void DeductionGrid::PutBack(const QStringList &quantities)
+{
+    if (!mRefused && !mWithheld)
+        return;
+    mWithheld = false;
+    for (int row = 0; const QString &quantity : quantities)
+        fgrdDeduction.SetCell(row++, kQuantityColumn, quantity);
 }

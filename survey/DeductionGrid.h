@@ -4,6 +4,7 @@
 #include "survey/NumberRule.h"
 
 #include <QObject>
+#include <QStringList>
 
 class FloatingEditor;
 class Grid;
@@ -30,6 +31,10 @@ public:
     /// Takes the quantities into a draft. False where the editor's was refused, as a message has told: no cell was
     /// read.
     bool Collect(clsDraft &draft);
+    /// The quantities on show, by row.
+    [[nodiscard]] QStringList Quantities() const;
+    /// Shows them again where a refusal kept them from being taken, or a failure from being shown since.
+    void PutBack(const QStringList &quantities);
 
     /// The editor's check. A failure is told.
     void Validate(bool &cancel);
@@ -55,6 +60,7 @@ private:
     FloatingEditor *txtGridTextbox;
     Recordset mRsItems; ///< row r of the grid is row r here
     NumberRule mRule;
+    bool mRefused = false; ///< the last collection read no cell
     bool mRefusalBlanked = false; ///< the editor is blank from a refusal and not by the user
     bool mWithheld = false; ///< blank cells are not shown quantities, and no zeros
 };

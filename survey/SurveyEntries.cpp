@@ -37,7 +37,8 @@ NumberRule MarkRule(const char *name, const char *range)
 } // namespace
 
 SurveyEntries::SurveyEntries(Form &form, const Ui::SurveyWindow &controls, const SurveyKind &kind)
-    : ui(controls)
+    : mForm(form)
+    , ui(controls)
     , mKind(kind)
 {
     const struct {
@@ -106,7 +107,7 @@ bool SurveyEntries::AllFilled() const
         if (!IsBlank(field->text()))
             continue;
         TellExclamation(std::string("Incomplete data.\n\nPlease enter value for ").append(name).append("."));
-        field->setFocus();
+        mForm.MoveFocus(field);
         return false;
     }
     return true;

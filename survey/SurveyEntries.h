@@ -24,6 +24,7 @@ private:
     void mbxDate_Validate(bool &cancel) const;
     void mbxTime_Validate(bool &cancel) const;
 
+    Form &mForm;
     const Ui::SurveyWindow &ui;
     const SurveyKind &mKind;
 };

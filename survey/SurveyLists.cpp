@@ -31,7 +31,7 @@ void SurveyLists::UseBaselines(QComboBox &list, std::function<void()> picked)
 {
     mBaselines = &list;
     mBaselinePicked = std::move(picked);
-    QObject::connect(&list, &QComboBox::activated, &list, [this] { mBaselinePicked(); });
+    QObject::connect(&list, &QComboBox::activated, &list, [this] { PickBaseline(); });
 }
 
 void SurveyLists::InitShipDataCombo()
@@ -129,7 +129,14 @@ void SurveyLists::PickFirstBaseline()
         const QSignalBlocker quiet(mBaselines);
         mBaselines->setCurrentIndex(0);
     }
-    mBaselinePicked();
+    PickBaseline();
+}
+
+void SurveyLists::PickBaseline()
+{
+    // The drafts that the list names may be gone.
+    if (mRsDailyList.State() == 1 && mRsDailyList.RecordCount() > 0)
+        mBaselinePicked();
 }
 
 void SurveyLists::FindShip(const Value &shipID)

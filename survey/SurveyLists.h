@@ -49,6 +49,7 @@ public:
 
 private:
     void FillTimes(const QString &date);
+    void PickBaseline();
 
     const Ui::SurveyWindow &ui;
     const Survey &mSurvey;

@@ -76,10 +76,17 @@ void SurveyWindow::ShowFoundDrafts()
         mLists.InitDateDataCombo();
         return;
     }
+    if (found == Survey::Found::LaterBroken) {
+        // A save takes what stands on the screen.
+        const UnsaidMessages quiet;
+        LoadDraft(Stage::Initial);
+        return;
+    }
     const std::int32_t recordID = mSurvey.RecordID();
     if (mKind.newWherePartlyFilled)
         NewDraft();
-    mSurvey.NewDraftsUnder(recordID);
+    if (found == Survey::Found::NoInitial || !mKind.newWherePartlyFilled)
+        mSurvey.NewDraftsUnder(recordID);
     if (found == Survey::Found::InitialBroken)
         MsgBox("An internal error has occured.");
 }

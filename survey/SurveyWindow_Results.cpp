@@ -30,7 +30,7 @@ bool SurveyWindow::ValidCalcInput()
 {
     if (IsBlank(ui->dcbShip->Text())) {
         TellExclamation("Incomplete data.\n\nPlease select ship name.");
-        ui->dcbShip->setFocus();
+        MoveFocus(ui->dcbShip);
         return false;
     }
     return mEntries.AllFilled();
@@ -63,13 +63,15 @@ void SurveyWindow::ShowDraft(const Stage &stage)
     }
     ui->txtComments->setPlainText(QString::fromStdString(draft.Comments()));
     mResults.ShowDrafts(draft);
+    // From here on it goes by the tab in front: a list correction box of another stage may have been left there.
+    const Stage &front = ActiveStage();
     if (mResults.IsCalculated()) {
-        mResults.ShowFigures(draft, ListCorrectionOf(stage).isChecked());
-        mResults.ShowCaptions(mKind.captions[static_cast<std::size_t>(stage.Tab())]);
-        if (!mPanel->Show(stage, draft))
+        mResults.ShowFigures(draft, ListCorrectionOf(front).isChecked());
+        mResults.ShowCaptions(mKind.captions[static_cast<std::size_t>(mTab)]);
+        if (!mPanel->Show(front, draft))
             return;
     }
-    mDeductions.Show(draft, mKind.zeroFillsQuantities);
+    mDeductions.Show(mSurvey.Draft(front), mKind.zeroFillsQuantities);
 }
 
 void SurveyWindow::InitializeAllGrids(bool rebuild)

@@ -14,7 +14,7 @@ namespace
 /// What is wrong with the constant or the net displacement; nothing where nothing is.
 const char *WrongFigures(const Survey &survey, const clsDraft &draft)
 {
-    if (IsZero(survey.Constant()))
+    if (survey.Constant() == Value::Zero())
         return "Value of constant can't be zero.";
     if (!LiesBetween(survey.Constant(), 0, 100000))
         return "Invalid constant value.\n\nPlease check your input values.";
@@ -56,8 +56,11 @@ bool SurveyWindow::ValidDraft()
 void SurveyWindow::WorkOutDrafts()
 try {
     const UnsaidMessages quiet;
-    if (mSurvey.WorkOutDrafts(ActiveStage()))
-        LoadDraft(ActiveStage());
+    if (!mSurvey.WorkOutDrafts(ActiveStage()))
+        return;
+    const QStringList typed = mDeductions.Quantities();
+    LoadDraft(ActiveStage());
+    mDeductions.PutBack(typed);
 } catch (const RuntimeError &) {
     // The save goes on by the drafts, whatever the screen can show of them.
 }

@@ -66,6 +66,11 @@ Value DischargingPanel::InitialNetDisplacement() const
     return ZeroIfAbsent(mParts.survey.Draft(Stage::Initial).NetDisplacement());
 }
 
+Value DischargingPanel::BillOfLadingQuantity() const
+{
+    return ui->txtBLQty->text().isEmpty() ? Value::Zero() : DecimalOf(ui->txtBLQty->text());
+}
+
 void DischargingPanel::ShowLastRow(const Value &cargo, QLineEdit *field)
 {
     mParts.results.ShowCell(kLastRow, cargo);
@@ -84,9 +89,8 @@ void DischargingPanel::ShowInitialResults(const Value &netDisplacement)
     const Value cargoAndConstant = ZeroIfAbsent(netDisplacement) - lightShip;
     mParts.results.ShowCell(kLightShipRow, BlankIfZero(lightShip));
     ShowLastRow(BlankIfZero(cargoAndConstant), nullptr);
-    const Value billOfLading = DecimalOrZero(ui->txtBLQty->text());
-    if (!IsZero(billOfLading))
-        ShowAssumedConstant(BlankIfZero(cargoAndConstant - billOfLading));
+    if (const Value quantity = BillOfLadingQuantity(); !IsZero(quantity))
+        ShowAssumedConstant(BlankIfZero(cargoAndConstant - quantity));
     if (mParts.survey.Constant() >= Value(100000))
         TellInvalidInput("Value of constant is too large.");
 }
@@ -94,7 +98,8 @@ void DischargingPanel::ShowInitialResults(const Value &netDisplacement)
 void DischargingPanel::ShowAssumedConstant(const Value &constant)
 {
     ShowValue(*ui->txtAssumedConstant, constant);
-    SetRed(*ui->txtAssumedConstant, constant.IsNumber() && IsNegative(constant));
+    // Where none is left there is no number to look at, and the run ends here on purpose.
+    SetRed(*ui->txtAssumedConstant, IsNegative(DecimalOf(ui->txtAssumedConstant->text())));
 }
 
 void DischargingPanel::ShowDailyResults(const Value &netDisplacement)
@@ -105,7 +110,7 @@ void DischargingPanel::ShowDailyResults(const Value &netDisplacement)
     ui->txtBLQtyAtLoadPort->setText(ui->txtBLQty->text());
     // Where nothing has been discharged there is no number to take off, and the run ends here on purpose.
     const Value discharged = DecimalOf(ui->txtTotCargoDischarged->text());
-    const Value onBoard = DecimalOrZero(ui->txtBLQty->text()) - discharged;
+    const Value onBoard = BillOfLadingQuantity() - discharged;
     ShowValue(*ui->txtTolCargoOnboard, BlankIfZero(onBoard));
     SetRed(*ui->txtTolCargoOnboard, IsNegative(onBoard));
     ShowValue(*ui->txtLastDischargedCargo, discharged - DecimalOrZero(ui->txtPrevDischargedCargo->text()));

@@ -38,6 +38,8 @@ private:
     /// Row 11 and its field: red where the figure is below 0.
     void ShowLastRow(const Value &cargo, QLineEdit *field);
     [[nodiscard]] Value InitialNetDisplacement() const;
+    /// 0 where the field is empty. Type mismatch (13) where it holds blanks or anything else that is no number.
+    [[nodiscard]] Value BillOfLadingQuantity() const;
     /// Tells where a field's figure is below 0.
     static void CheckNotNegative(const QLineEdit &field, std::string_view message);
     void txtBLQty_Validate(bool &cancel);

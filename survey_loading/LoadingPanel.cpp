@@ -10,6 +10,8 @@
 #include "survey/SurveyMessages.h"
 #include "ui_LoadingResults.h"
 
+#include <optional>
+
 namespace
 {
 constexpr std::int32_t kConstantLimit = 100000;
@@ -82,10 +84,16 @@ void LoadingPanel::ShowInitialResults(const Value &netDisplacement)
 
 bool LoadingPanel::BlankWithout(const Value &netDisplacement)
 {
-    if (!IsZero(netDisplacement) && !mParts.survey.Draft(Stage::Initial).NetDisplacement().IsAbsent())
+    const bool initialAbsent = mParts.survey.Draft(Stage::Initial).NetDisplacement().IsAbsent();
+    if (!IsZero(netDisplacement) && !initialAbsent)
         return false;
     mParts.results.ShowCell(10, Value::EmptyText());
     mParts.results.ShowCell(11, Value::EmptyText());
+    // Without an Initial figure what stands here is another survey's.
+    if (initialAbsent)
+        for (QLineEdit *field : {ui->txtTotCargoOnboard, ui->txtLastLoadedCargo, ui->txtBalCargoToLoad,
+                                 ui->txtFinalNetDisp, ui->txtTotCargoLoaded})
+            field->clear();
     return true;
 }
 
@@ -111,12 +119,15 @@ void LoadingPanel::ShowCargoOnboard(const Value &cargo)
     SetRed(*ui->txtTotCargoOnboard, IsNegative(cargo));
     if (IsNegative(cargo))
         TellInvalidInput("Invalid value of Total Cargo on board.");
-    const QString intended = ui->txtCargoIntendedToLoad->text();
-    // The field's own check looks at another field first, so letters may stand here.
-    if (!IsBlank(intended) && !IsNumericText(intended.toStdString()))
+    const std::string intended = ui->txtCargoIntendedToLoad->text().toStdString();
+    if (IsBlank(ui->txtCargoIntendedToLoad->text()))
+        return;
+    // The field's own check looks at another field first, so letters may stand here, or a number beyond all decimals.
+    const std::optional<Decimal> number = IsNumericText(intended) ? TypedNumber(intended) : std::nullopt;
+    if (number)
+        ShowBalance(Value(*number) - cargo);
+    else
         ui->txtBalCargoToLoad->clear();
-    else if (!IsBlank(intended))
-        ShowBalance(DecimalOf(intended) - cargo);
 }
 
 void LoadingPanel::ShowCargoSince(const Value &cargo)
@@ -182,7 +193,8 @@ void LoadingPanel::BaselinePicked()
 {
     if (!mParts.results.IsCalculated())
         return;
-    if (mParts.survey.Constant().IsEmptyText()) {
+    const bool initialAbsent = mParts.survey.Draft(Stage::Initial).NetDisplacement().IsAbsent();
+    if (initialAbsent || mParts.survey.Constant().IsEmptyText()) {
         // Without a constant there is no figure, rather than one that is wrong by all of it.
         ui->txtPrevLoadedCargo->clear();
         ui->txtLastLoadedCargo->clear();

@@ -355,7 +355,7 @@ TEST_F(HydrostaticTable, TheWholeTableIsDeletedAtOnce)
     mMessages.ExpectNoneLeft();
     EXPECT_EQ(Stored() + Shown() + Entry() + Box(), "");
     EXPECT_EQ(Window().ButtonMask(), "110000001");
-    // The row was picked when its table went: it must not be lost in the empty one at the end.
+    // The row was picked when its table went: what is typed now must not be lost in the empty one at the end.
     TypeRow("9 1 2 3 4 5 6 7");
     PressNew();
     EXPECT_EQ(Window().ButtonMask(), "010000001");

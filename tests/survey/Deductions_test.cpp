@@ -47,6 +47,26 @@ TEST_F(DeductionsGrid, ARefusalKeepsTheCellAndTheRow)
     EXPECT_EQ(Focus() + Quantity(0), "txtGridTextbox350");
     Type(Frame(), "350");
     ExpectTold(kNoChanges, [&] { PressSave(); });
+    // A command that asks for another field moves there by way of the check.
+    Fill("txtDensity", "");
+    FillCell(0, "z");
+    Tell("Incomplete data.\n\nPlease enter value for Density.");
+    ExpectTold(kNoNumber, [&] { PressKey(Frame(), Qt::Key_P, Qt::ControlModifier); });
+    Click(*Deductions().viewport(), third.center());
+    EXPECT_EQ(Row(), 2);
+    EXPECT_EQ(Quantity(0), "350");
+}
+
+TEST_F(DeductionsGrid, ARefusalAtASaveLeavesTheOtherQuantitiesAsTyped)
+{
+    StoreSurvey();
+    Open();
+    FillCell(0, "400");
+    FillCell(1, "x");
+    Tell(kNoNumber);
+    SaveWell();
+    EXPECT_EQ(StoredDeductions(), "1:2=350 1:3=120.5");
+    EXPECT_EQ(Quantity(0) + " " + Quantity(1), "400 120.5");
 }
 
 TEST_F(DeductionsGrid, TheArrowsMoveBetweenFirstAndLastRow)

@@ -221,6 +221,13 @@ TEST_F(Save, AShipIsChangedInTheHeaderAndInTheDraftsThatWereTouched)
     Fill("txtComments", "Another ship");
     SaveWell();
     EXPECT_EQ(stored() + " " + Text("txtConstant"), "2 22543.18513 23840.80539 443.18513");
+    // Her constant too, from whichever tab it is saved.
+    Run("UPDATE Ship SET LightShip = LightShip + 100 WHERE ShipID = 1");
+    Pick("dcbShip", 0);
+    Fill("txtComments", "The first ship again");
+    ClickTab("Daily");
+    SaveWell();
+    EXPECT_EQ(Ask("SELECT Constant FROM DraftParticulars").Text(), "241.68513");
 }
 
 TEST_F(Save, ARefusedQuantityIsNeitherReadNorCleared)
