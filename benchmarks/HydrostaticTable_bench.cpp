@@ -1,20 +1,19 @@
 #include "benchmarks/BenchClock.h"
 #include "benchmarks/BenchStore.h"
 #include "benchmarks/RatioTable.h"
-
 #include "core/MsgBox.h"
-
 #include "frame/frmMDI.h"
 #include "frame/mdlMain.h"
 #include "frame/store/Connection.h"
 #include "masters/frmHDT.h"
+
+#include <sqlite3.h>
 
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
 
 #include <algorithm>
-#include <sqlite3.h>
 #include <vector>
 
 namespace

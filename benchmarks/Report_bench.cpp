@@ -1,7 +1,6 @@
 #include "benchmarks/BenchClock.h"
 #include "benchmarks/BenchStore.h"
 #include "benchmarks/RatioTable.h"
-
 #include "reports/Report.h"
 #include "reports/ReportPainter.h"
 #include "reports/ReportPdf.h"

@@ -1,6 +1,5 @@
 #include "benchmarks/BenchStore.h"
 #include "benchmarks/RatioTable.h"
-
 #include "core/ReturnCode.h"
 #include "core/clsDraft.h"
 

@@ -1,6 +1,5 @@
 #include "benchmarks/BenchStore.h"
 #include "benchmarks/RatioTable.h"
-
 #include "frame/store/StoreMaker.h"
 
 #include <algorithm>

@@ -1,9 +1,7 @@
 #include "benchmarks/BenchClock.h"
 #include "benchmarks/BenchStore.h"
 #include "benchmarks/RatioTable.h"
-
 #include "core/MsgBox.h"
-
 #include "frame/frmMDI.h"
 #include "frame/mdlMain.h"
 #include "frame/platform/Settings.h"

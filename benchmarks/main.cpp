@@ -1,8 +1,6 @@
 #include "benchmarks/BenchStore.h"
 #include "benchmarks/RatioTable.h"
-
 #include "core/MsgBox.h"
-
 #include "frame/platform/Application.h"
 #include "frame/platform/Settings.h"
 #include "tests/support/OffscreenMessages.h"

@@ -1,7 +1,7 @@
 #include "core/MsgBox.h"
 #include "core/ReturnCode.h"
-
 #include "core/clsDraft.h"
+
 #include <utility>
 
 namespace

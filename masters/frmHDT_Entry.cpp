@@ -1,10 +1,9 @@
-#include "masters/frmHDT.h"
-
 #include "core/MsgBox.h"
 #include "core/numeric/NumericText.h"
 #include "frame/controls/FloatingEditor.h"
 #include "frame/controls/ScreenText.h"
 #include "masters/HydrostaticColumn.h"
+#include "masters/frmHDT.h"
 #include "ui_frmHDT.h"
 
 #include <QKeyEvent>

@@ -1,8 +1,7 @@
-#include "masters/frmHDT.h"
-
 #include "core/MsgBox.h"
 #include "core/numeric/NumericText.h"
 #include "masters/HydrostaticColumn.h"
+#include "masters/frmHDT.h"
 #include "ui_frmHDT.h"
 
 namespace

@@ -1,8 +1,7 @@
-#include "masters/frmShipParticulars.h"
-
 #include "core/MsgBox.h"
 #include "core/numeric/NumericText.h"
 #include "frame/controls/ScreenText.h"
+#include "masters/frmShipParticulars.h"
 #include "ui_frmShipParticulars.h"
 
 #include <optional>

@@ -1,10 +1,9 @@
-#include "masters/frmShipParticulars.h"
-
 #include "core/MsgBox.h"
 #include "core/ReturnCode.h"
 #include "core/numeric/NumericText.h"
 #include "frame/mdlMain.h"
 #include "frame/store/Connection.h"
+#include "masters/frmShipParticulars.h"
 #include "ui_frmShipParticulars.h"
 
 namespace

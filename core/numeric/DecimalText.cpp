@@ -1,5 +1,4 @@
 #include "core/numeric/Decimal.h"
-
 #include "core/numeric/Exact.h"
 #include "core/numeric/RuntimeError.h"
 

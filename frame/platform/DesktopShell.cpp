@@ -1,7 +1,6 @@
-#include "frame/platform/Shell.h"
-
 #include "core/MsgBox.h"
 #include "core/numeric/RuntimeError.h"
+#include "frame/platform/Shell.h"
 
 #include <QCoreApplication>
 #include <QDesktopServices>

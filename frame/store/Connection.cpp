@@ -4,6 +4,7 @@
 #include "frame/store/StoreProof.h"
 
 #include <sqlite3.h>
+
 #include <string>
 
 namespace

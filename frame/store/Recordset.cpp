@@ -1,7 +1,8 @@
 #include "frame/store/RecordsetRows.h"
 
-#include <algorithm>
 #include <sqlite3.h>
+
+#include <algorithm>
 
 namespace
 {

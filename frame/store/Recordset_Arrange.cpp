@@ -1,6 +1,5 @@
-#include "frame/store/RecordsetRows.h"
-
 #include "core/numeric/NumericText.h"
+#include "frame/store/RecordsetRows.h"
 
 #include <algorithm>
 

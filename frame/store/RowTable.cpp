@@ -3,9 +3,10 @@
 #include "frame/store/Connection.h"
 #include "frame/store/Statement.h"
 
+#include <sqlite3.h>
+
 #include <algorithm>
 #include <limits>
-#include <sqlite3.h>
 
 namespace
 {

@@ -2,8 +2,9 @@
 
 #include "frame/store/Connection.h"
 
-#include <climits>
 #include <sqlite3.h>
+
+#include <climits>
 #include <string>
 
 void RaiseStoreError(sqlite3 *handle, int code)

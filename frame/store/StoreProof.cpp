@@ -2,10 +2,11 @@
 
 #include "frame/store/Connection.h"
 
+#include <sqlite3.h>
+
 #include <array>
 #include <cstdint>
 #include <memory>
-#include <sqlite3.h>
 #include <string>
 
 namespace

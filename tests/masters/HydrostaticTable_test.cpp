@@ -1,7 +1,6 @@
-#include "tests/masters/HydrostaticDesk.h"
-
 #include "core/numeric/Regional.h"
 #include "masters/TextTable.h"
+#include "tests/masters/HydrostaticDesk.h"
 
 #include <QLabel>
 

@@ -1,4 +1,5 @@
 #include "core/numeric/Decimal.h"
+
 #include "tests/numeric/RaisedNumber.h"
 
 #include <gtest/gtest.h>

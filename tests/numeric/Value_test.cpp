@@ -1,5 +1,6 @@
-#include "core/numeric/Regional.h"
 #include "core/numeric/Value.h"
+
+#include "core/numeric/Regional.h"
 #include "tests/numeric/RaisedNumber.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,5 @@
 #include "frame/store/Recordset.h"
+
 #include "tests/support/TestStore.h"
 
 #include <string>

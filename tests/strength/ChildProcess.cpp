@@ -5,6 +5,7 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+
 #include <sys/wait.h>
 #include <unistd.h>
 

@@ -4,11 +4,11 @@
 #include "tests/survey/SurveyDesk.h"
 
 #include <chrono>
+#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <random>
 
-#include <csignal>
 #include <sys/resource.h>
 #include <unistd.h>
 

@@ -1,8 +1,7 @@
 #pragma once
 
-#include <QtGlobal>
-
 #include <QString>
+#include <QtGlobal>
 
 /// Drops what the platform without a display says of its own lacks at every window; all other messages stay.
 inline void DropOffscreenMessages()

@@ -3,8 +3,9 @@
 #include "core/numeric/Value.h"
 #include "frame/store/StoreMaker.h"
 
-#include <filesystem>
 #include <gtest/gtest.h>
+
+#include <filesystem>
 #include <string_view>
 
 /// A folder of its own that goes away with the object.

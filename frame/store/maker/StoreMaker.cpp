@@ -5,9 +5,10 @@
 #include "frame/store/maker/SampleShips.h"
 #include "frame/store/maker/StoreTexts.h"
 
+#include <sqlite3.h>
+
 #include <memory>
 #include <random>
-#include <sqlite3.h>
 #include <string>
 
 namespace
