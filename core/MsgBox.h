@@ -30,6 +30,11 @@ MsgAnswer MsgBox(const Message &message);
 /// A box with an OK button only. The caption is the program's title unless another is given.
 void MsgBox(std::string_view text, MsgIcon icon = MsgIcon::None, std::string_view caption = kProgramTitle);
 
+inline void TellExclamation(std::string_view text, std::string_view caption = kProgramTitle)
+{
+    MsgBox(text, MsgIcon::Exclamation, caption);
+}
+
 /// What shows the boxes: the program sets a window, a test a script. Without one, MsgBox throws std::logic_error.
 /// The port that was set before is handed back.
 using MsgBoxPort = std::function<MsgAnswer(const Message &)>;

@@ -79,7 +79,7 @@ void Survey::New()
     // No survey is open: her row must not lend its cargo to the next one.
     CloseRow();
     mRecordID = -1;
-    mConstant = std::int16_t {0};
+    mConstant = Value::Zero();
     mMode = 0;
     mHeaderDirty = false;
 }
@@ -87,7 +87,7 @@ void Survey::New()
 std::optional<SurveyHeader> Survey::Find(const std::string &statement)
 {
     mRsParticulars.Reopen(statement, CursorType::Keyset, LockType::Optimistic);
-    if (mRsParticulars.RecordCount() < 1)
+    if (!mRsParticulars.HasRows())
         return std::nullopt;
     return SurveyHeader {.shipID = mRsParticulars.Fields("ShipID"),
                          .voyageID = mRsParticulars.Fields("VoyageID").Text(),
@@ -130,7 +130,7 @@ void Survey::NewDrafts(const Stage &first)
 
 std::optional<std::string> Survey::StoredCargo()
 {
-    if (mHeaderDirty || mRsParticulars.State() != 1 || mRsParticulars.RecordCount() < 1)
+    if (mHeaderDirty || !mRsParticulars.HasRows())
         return std::nullopt;
     mRsParticulars.MoveFirst();
     return mRsParticulars.Fields("Cargo").Text();
@@ -187,7 +187,7 @@ std::int32_t Survey::Save(const SurveyHeader &header)
 
 std::string Survey::ConstantText() const
 {
-    const bool none = mMode == 0 || mConstant.IsAbsent() || mConstant == Value(std::int16_t {0});
+    const bool none = mMode == 0 || IsZero(mConstant);
     return none && !mDirection.noConstant.empty() ? std::string(mDirection.noConstant) : mConstant.SqlText();
 }
 
@@ -206,7 +206,7 @@ void Survey::WriteHeader(const SurveyHeader &header)
                              + std::to_string(mRecordID) + "," + ship + ", " + voyage + ", " + port + ", " + cargo
                              + ", " + ConstantText() + ", " + std::string(mDirection.isLoading) + ")");
     } else {
-        if (mRsParticulars.State() == 1 && mRsParticulars.RecordCount() > 0)
+        if (mRsParticulars.HasRows())
             mRecordID = mRsParticulars.Fields("RecordID").ToLong();
         gConnection->ExecuteOnOneRow("UPDATE DraftParticulars set ShipID=" + ship + ",VoyageID=" + voyage
                                      + ", PortID=" + port + ",Cargo=" + cargo + ", Constant = " + ConstantText()
@@ -227,7 +227,7 @@ std::int32_t Survey::WriteDrafts()
     for (clsDraft &draft : mDrafts) {
         if (!draft.ToSave())
             continue;
-        if (draft.DraftMode() == Value(std::int16_t {0})) {
+        if (IsZero(draft.DraftMode())) {
             draft.DraftMode(std::int16_t {1});
             draft.HasRecord(true);
         }
@@ -257,6 +257,6 @@ void Survey::ForgetUnsavedRow()
 
 void Survey::CloseRow()
 {
-    if (mRsParticulars.State() == 1)
+    if (mRsParticulars.IsOpen())
         mRsParticulars.Close();
 }

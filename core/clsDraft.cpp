@@ -97,8 +97,8 @@ void clsDraft::OpenDeductions(std::int32_t draftID)
     rows.Open("SELECT * FROM DeductionTrans WHERE DraftID = " + std::to_string(draftID), CursorType::Keyset,
               LockType::BatchOptimistic);
     std::vector<ItemQuantity> quantities;
-    for (; !rows.AtEnd(); rows.MoveNext())
-        quantities.push_back({rows.Fields("ItemID"), rows.Fields("Quantity")});
+    for (const Recordset::Row &row : rows.EachRow())
+        quantities.push_back({row.Fields("ItemID"), row.Fields("Quantity")});
     mDeductions = std::move(quantities);
 }
 
@@ -129,7 +129,7 @@ void clsDraft::AddQuantities(Value &total)
 Value clsDraft::GetTotDeductibles()
 {
     try {
-        mTotDeductibles = std::int16_t {0};
+        mTotDeductibles = Value::Zero();
         AddQuantities(mTotDeductibles);
     } catch (const RuntimeError &) {
         MsgBox("clsDraft::GetTotDeductibles");

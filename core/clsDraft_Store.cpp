@@ -90,7 +90,7 @@ try {
 
     Recordset row;
     row.Open(statement, CursorType::Keyset, LockType::Optimistic);
-    if (row.RecordCount() < 1) {
+    if (!row.HasRows()) {
         NewDraft();
         return ReturnCode::NoSuchDraft;
     }

@@ -7,7 +7,7 @@
 
 namespace
 {
-const Value kZero = std::int16_t {0};
+const Value kZero = Value::Zero();
 /// The second trim correction looks half a metre above and below the draft.
 const Value kHalfMetre = 0.5;
 } // namespace
@@ -150,7 +150,7 @@ std::int32_t clsHydrostaticData::SearchBracket(const std::string &text)
 
 bool clsHydrostaticData::FindExact(const Value &draft)
 {
-    Table().Find("TMD = " + draft.SqlText(), 0, Recordset::kSearchForward, Recordset::kBookmarkFirst);
+    Table().FindFirst("TMD = " + draft.SqlText());
     return !Table().AtEnd();
 }
 

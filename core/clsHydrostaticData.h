@@ -83,8 +83,8 @@ private:
     Value mTMD, mDisplacement, mTPC, mMCTCPlus50, mMCTCMinus50, mLCF;
     Value mIpFactor, mIpDisplacement, mIpTPC, mIpLCF, mIpMCTCPlus50, mIpMCTCMinus50;
     Value mIfMCTCPlus50, mIfMCTCMinus50;
-    Value mWorkingFactor = std::int16_t {0}; ///< factor of the last MCTC interpolation
-    Value mWorkingIncrement = std::int16_t {0}; ///< interpolated part of the last MCTC interpolation
+    Value mWorkingFactor = Value::Zero(); ///< factor of the last MCTC interpolation
+    Value mWorkingIncrement = Value::Zero(); ///< interpolated part of the last MCTC interpolation
     Bracket mBracket;
     std::vector<FoundBracket> mFoundBrackets;
 };

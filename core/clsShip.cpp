@@ -5,10 +5,8 @@
 
 std::int32_t clsShip::SetShip(std::int32_t shipID)
 try {
-    auto row = std::make_unique<Recordset>();
-    row->Open("SELECT Ship.* FROM Ship WHERE Ship.ShipID = " + std::to_string(shipID), CursorType::Dynamic,
-              LockType::BatchOptimistic);
-    mRow = std::move(row);
+    mRow.Reopen("SELECT Ship.* FROM Ship WHERE Ship.ShipID = " + std::to_string(shipID), CursorType::Dynamic,
+                LockType::BatchOptimistic);
     return ReturnCode::Success;
 } catch (const RuntimeError &) {
     // The two sentences run together on purpose.
@@ -20,14 +18,14 @@ try {
 
 Value clsShip::GetDistBetDraftMarks() const
 {
-    if (!mRow || mRow->State() != 1 || mRow->RecordCount() < 1)
-        return std::int16_t {0};
+    if (!mRow.HasRows())
+        return Value::Zero();
     return LBP() + FwdX() - AftX();
 }
 
 Value clsShip::Column(std::string_view name) const
 {
-    if (!mRow)
+    if (!mRow.IsOpen())
         throw RuntimeError(ErrorNumber::NoObject);
-    return mRow->Fields(name);
+    return mRow.Fields(name);
 }

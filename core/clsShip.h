@@ -4,7 +4,6 @@
 #include "frame/store/Recordset.h"
 
 #include <cstdint>
-#include <memory>
 #include <string>
 
 /// A read-only view of one row of the table Ship. Lengths are in metres, weights in tonnes.
@@ -45,5 +44,5 @@ public:
 private:
     [[nodiscard]] Value Column(std::string_view name) const;
 
-    std::unique_ptr<Recordset> mRow;
+    Recordset mRow;
 };

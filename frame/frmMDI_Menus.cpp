@@ -176,7 +176,9 @@ int frmMDI::MenuImageIndex(const QString &imageKey) const
 
 QAction &frmMDI::MenuItem(const QString &MenuKey) const
 {
-    return *menuBar()->findChild<QAction *>(MenuKey);
+    if (auto *item = menuBar()->findChild<QAction *>(MenuKey))
+        return *item;
+    throw RuntimeError(ErrorNumber::NoObject);
 }
 
 QAction &frmMDI::Button(int position) const

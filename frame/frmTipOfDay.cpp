@@ -59,10 +59,8 @@ void frmTipOfDay::Form_Load()
 
 bool frmTipOfDay::LoadTips()
 {
-    if (rsTips.RecordCount() > 0) {
-        for (rsTips.MoveFirst(); !rsTips.AtEnd(); rsTips.MoveNext())
-            mTips.push_back(rsTips.Fields("Tip").Text());
-    }
+    for (const Recordset::Row &row : rsTips.EachRow())
+        mTips.push_back(row.Fields("Tip").Text());
     DoNextTip();
     return true;
 }

@@ -84,8 +84,7 @@ void MasterWindow::ListPicked()
     // A save that was refused is given up, and not tried again by the search.
     mRecords.CancelUpdate();
     const std::string picked = mList->BoundValue().Text();
-    mRecords.Find(std::string(mKind.idColumn) + " = " + picked, 0, Recordset::kSearchForward,
-                  Recordset::kBookmarkFirst);
+    mRecords.FindFirst(std::string(mKind.idColumn) + " = " + picked);
     if (mRecords.AtEnd())
         return;
     mEditMode = 1;

@@ -1,5 +1,6 @@
 #include "masters/RowGrid.h"
 
+#include "frame/controls/Headings.h"
 #include "masters/TextTable.h"
 
 #include <QAbstractTableModel>
@@ -9,7 +10,6 @@
 
 namespace
 {
-constexpr int kRoomAboveAndBelow = 6;
 constexpr int kRowsInSight = 15;
 } // namespace
 
@@ -80,7 +80,7 @@ RowGrid::RowGrid(QWidget *parent)
     horizontalHeader()->setSectionsClickable(false);
     horizontalHeader()->setHighlightSections(false);
     verticalHeader()->hide();
-    FitRowHeight();
+    FitRowHeight(*this);
 }
 
 RowGrid::~RowGrid() = default;
@@ -144,12 +144,5 @@ void RowGrid::changeEvent(QEvent *event)
 {
     QTableView::changeEvent(event);
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
-        FitRowHeight();
-}
-
-void RowGrid::FitRowHeight()
-{
-    const int height = fontMetrics().height() + kRoomAboveAndBelow;
-    verticalHeader()->setMinimumSectionSize(height);
-    verticalHeader()->setDefaultSectionSize(height);
+        FitRowHeight(*this);
 }

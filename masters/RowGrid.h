@@ -45,8 +45,6 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
-    void FitRowHeight();
-
     TextTable *mTable = nullptr;
     std::unique_ptr<TextTableModel> mModel;
 };

@@ -3,6 +3,7 @@
 #include "core/MsgBox.h"
 #include "frame/controls/Colours.h"
 #include "frame/controls/FloatingEditor.h"
+#include "frame/controls/Headings.h"
 #include "frame/controls/ScreenText.h"
 #include "frame/mdlMain.h"
 #include "masters/HydrostaticColumn.h"
@@ -22,7 +23,6 @@ constexpr int kDisplacementTwips = 1200;
 constexpr int kCaptionMargins = 14;
 constexpr int kPickRow = 1;
 constexpr int kHintIndent = 6;
-constexpr double kLegendSize = 0.9;
 
 QStringList Captions()
 {
@@ -67,9 +67,7 @@ void frmHDT::BuildWindow()
     lblHint->setIndent(kHintIndent);
     ui->sbHDT->addWidget(lblHint, 1);
     for (QLabel *legend : {ui->lblNewShip, ui->lblLegend, ui->lblCtrlN, ui->lblCtrlS, ui->lblDel, ui->lblCtrlF4}) {
-        QFont small = legend->font();
-        small.setPointSizeF(small.pointSizeF() * kLegendSize);
-        legend->setFont(small);
+        ScaleFont(*legend, kLegendSize);
     }
     ShowLocked(*this);
 }
@@ -186,7 +184,7 @@ void frmHDT::dcbShipName_Change()
     const Value bound = ui->dcbShipName->BoundValue();
     mShipID = bound.ToLong();
     const std::string criterion = "ShipID = " + bound.SqlText();
-    rsShip.Find(criterion, 0, Recordset::kSearchForward, Recordset::kBookmarkFirst);
+    rsShip.FindFirst(criterion);
     if (rsShip.AtEnd())
         return;
     ShowShip();
@@ -227,10 +225,9 @@ void frmHDT::ShowTable()
 {
     arrHDT.Redimension(0, mRowCount, 0, HydrostaticColumn::Last);
     arrHDT.Clear();
-    std::int32_t row = 0;
-    for (rsHDT.MoveFirst(); !rsHDT.AtEnd(); rsHDT.MoveNext()) {
+    for (std::int32_t row = 0; const Recordset::Row &stored : rsHDT.EachRow()) {
         for (int column = 0; column < HydrostaticColumn::Count; ++column)
-            arrHDT.Cell(row, column, TextOrEmpty(rsHDT.Fields(HydrostaticColumn::At(column).storeColumn)));
+            arrHDT.Cell(row, column, TextOrEmpty(stored.Fields(HydrostaticColumn::At(column).storeColumn)));
         ++row;
     }
     ui->tdbHDT->ReBind();

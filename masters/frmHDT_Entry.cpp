@@ -14,11 +14,6 @@ constexpr int kEntryRow = 1;
 constexpr int kCellPlaces = 4;
 constexpr std::string_view kCaption = "Hydrostatic Data Table";
 
-void TellExclamation(std::string_view text, std::string_view caption = kCaption)
-{
-    MsgBox(text, MsgIcon::Exclamation, caption);
-}
-
 /// Strictly between the column's bounds. A number too large for a decimal is not.
 std::optional<Value> AcceptedNumber(const std::string &text, const HydrostaticColumn &column)
 {
@@ -122,7 +117,7 @@ try {
     if (text.empty())
         return;
     const auto refuse = [&](std::string_view message) {
-        TellExclamation(message);
+        TellExclamation(message, kCaption);
         cancel = true;
         txtGridTextbox->clear();
     };
@@ -149,7 +144,8 @@ bool frmHDT::ValidRow()
         if (!IsBlank(EntryCell(column)))
             continue;
         TellExclamation(
-            std::string("Value of ").append(HydrostaticColumn::At(column).header).append(" can't be left blank."));
+            std::string("Value of ").append(HydrostaticColumn::At(column).header).append(" can't be left blank."),
+            kCaption);
         ui->fgrdInsertHD->SetCurrent(kEntryRow, column);
         return false;
     }
@@ -174,8 +170,7 @@ void frmHDT::CommitRow()
             return;
     } else if (!isNew) {
         TellExclamation("Updation error.\n\n"
-                        "Hydrostatic data table already contains a record corresponding to the entered TMD",
-                        kProgramTitle);
+                        "Hydrostatic data table already contains a record corresponding to the entered TMD");
         return;
     } else {
         // Meant: the row that is current by now, whichever was picked.

@@ -102,7 +102,7 @@ void frmShipParticulars::FillShipCombo()
     ui->cmbShipName->SetRows(rsShip, "ShipName");
     if (name.isEmpty())
         return;
-    rsShip.Find("ShipName = '" + name.toStdString() + "'", 0, Recordset::kSearchForward, Recordset::kBookmarkFirst);
+    rsShip.FindFirst("ShipName = '" + name.toStdString() + "'");
     ui->cmbShipName->SetText(ScreenText(rsShip.Fields("ShipName")));
 }
 
@@ -134,8 +134,7 @@ void frmShipParticulars::cmbShipName_Click()
         mRecordMode = 1;
         SendMask("110000101");
     }
-    rsShip.MoveFirst();
-    rsShip.Find("ShipName = '" + ui->cmbShipName->Text().toStdString() + "'");
+    rsShip.FindFirst("ShipName = '" + ui->cmbShipName->Text().toStdString() + "'");
     if (rsShip.AtEnd())
         return;
     mLoading = true;

@@ -43,7 +43,7 @@ public:
 private:
     /// What one number field accepts, and what is said of all else.
     struct NumberRule {
-        const char *field;
+        QLineEdit *Ui::frmShipParticulars::*field;
         std::int64_t above;
         std::int64_t below;
         std::int16_t places; ///< -1: the bounds are tested on the number as it was typed

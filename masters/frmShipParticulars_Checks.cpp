@@ -13,29 +13,37 @@ constexpr std::int64_t kTenDigits = 10000000000;
 } // namespace
 
 const std::array<frmShipParticulars::NumberRule, 13> frmShipParticulars::kNumberRules {{
-    {"txtFwdX", -1000, 1000, 4, 4, "Invalid value.\n\nValue of Fwd-X can be  greater than -1000 and less than 1000."},
-    {"txtMidX", -1000, 1000, 4, 4, "Invalid value.\n\nValue of Mid-X can be  greater than -1000 and less than 1000."},
-    {"txtAftX", -1000, 1000, 4, 4, "Invalid value.\n\nValue of Aft-X can be  greater than -1000 and less than 1000."},
-    {"txtOfficialNo", 0, kTenDigits, -1, 0,
+    {&Ui::frmShipParticulars::txtFwdX, -1000, 1000, 4, 4,
+     "Invalid value.\n\nValue of Fwd-X can be  greater than -1000 and less than 1000."},
+    {&Ui::frmShipParticulars::txtMidX, -1000, 1000, 4, 4,
+     "Invalid value.\n\nValue of Mid-X can be  greater than -1000 and less than 1000."},
+    {&Ui::frmShipParticulars::txtAftX, -1000, 1000, 4, 4,
+     "Invalid value.\n\nValue of Aft-X can be  greater than -1000 and less than 1000."},
+    {&Ui::frmShipParticulars::txtOfficialNo, 0, kTenDigits, -1, 0,
      "Official No. can only be a number  greater than 0 and less than 10000000000."},
-    {"txtIMONo", 0, kTenDigits, -1, 0, "IMO No. can only be a number  greater than 0 and less than 10000000000."},
-    {"txtLOA", 0, 1000, 2, 2, "LOA can only be a positive number greater than 0 and less than 1000."},
-    {"txtLBP", 0, 1000, 2, 2, "LBP can only be a positive number greater than 0 and less than 1000."},
-    {"txtBreadth", 0, 1000, 3, 3, "Breadth can only be a positive number greater than 0 and less than 1000."},
-    {"txtLightShip", 0, 1000000, 4, 4,
+    {&Ui::frmShipParticulars::txtIMONo, 0, kTenDigits, -1, 0,
+     "IMO No. can only be a number  greater than 0 and less than 10000000000."},
+    {&Ui::frmShipParticulars::txtLOA, 0, 1000, 2, 2,
+     "LOA can only be a positive number greater than 0 and less than 1000."},
+    {&Ui::frmShipParticulars::txtLBP, 0, 1000, 2, 2,
+     "LBP can only be a positive number greater than 0 and less than 1000."},
+    {&Ui::frmShipParticulars::txtBreadth, 0, 1000, 3, 3,
+     "Breadth can only be a positive number greater than 0 and less than 1000."},
+    {&Ui::frmShipParticulars::txtLightShip, 0, 1000000, 4, 4,
      "Value of Light Ship can only be a positive number greater than 0 and less than 1000000."},
-    {"txtGrossTonnage", 0, 1000000, 1, 1,
+    {&Ui::frmShipParticulars::txtGrossTonnage, 0, 1000000, 1, 1,
      "Gross Tonnage can only be a positive number  greater than 0 and less than 1000000."},
-    {"txtNetTonnage", 0, 1000000, 1, 1,
+    {&Ui::frmShipParticulars::txtNetTonnage, 0, 1000000, 1, 1,
      "Net Tonnage can only be a positive number greater than 0 and less than 1000000."},
-    {"txtSummerDeadweight", 0, 1000000, 3, 3,
+    {&Ui::frmShipParticulars::txtSummerDeadweight, 0, 1000000, 3, 3,
      "Summer Deadweight can only be a positive number greater than 0 and less than 1000000."},
-    {"txtSummerDraft", 0, 100, 4, 4, "Summer Draft can only be a positive number greater than 0 and less than 100."},
+    {&Ui::frmShipParticulars::txtSummerDraft, 0, 100, 4, 4,
+     "Summer Draft can only be a positive number greater than 0 and less than 100."},
 }};
 
 QLineEdit &frmShipParticulars::FieldOf(const NumberRule &rule) const
 {
-    return *findChild<QLineEdit *>(QLatin1String(rule.field));
+    return *((*ui).*rule.field);
 }
 
 void frmShipParticulars::ConnectChecks()

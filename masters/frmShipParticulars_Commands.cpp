@@ -26,11 +26,6 @@ void TellNotWritten()
     TellFailure(kSaveFailed, "Keelmark-10088");
 }
 
-void TellExclamation(std::string_view text)
-{
-    MsgBox(text, MsgIcon::Exclamation);
-}
-
 MsgAnswer Ask(const char *question, MsgButtons buttons, MsgAnswer defaultAnswer = MsgAnswer::Yes)
 {
     return MsgBox({.text = question, .icon = MsgIcon::Question, .buttons = buttons, .defaultAnswer = defaultAnswer});

@@ -27,11 +27,6 @@ constexpr std::array kItemLabels {ItemLabel {2, "FO"},     ItemLabel {3, "DO"}, 
 constexpr std::size_t kTrueDisplacement = 7;
 constexpr std::size_t kTotalDeductibles = 8;
 
-Value Rounded(const Value &value, int places)
-{
-    return value.IsAbsent() ? value : Round(value, places);
-}
-
 void FillShip(Report &report, const clsShip &ship, const std::string &portOfRegistry)
 {
     const auto fill = [&report](std::string_view label, const Value &value, std::string_view unit = {}) {
@@ -95,21 +90,21 @@ private:
 
     void FillDrafts() const
     {
-        Fill("FwdMeanDraft", Rounded(mDraft.FwdMean(), 3), kMetres);
-        Fill("FwdCorrection", Rounded(mDraft.FwdCorrection(), 3), kMetres);
-        Fill("CorrDraftFwd", Rounded(mDraft.FwdTrueDraft(), 3), kMetres);
-        Fill("AftMeanDraft", Rounded(mDraft.AftMean(), 3), kMetres);
-        Fill("AftCorrection", Rounded(mDraft.AftCorrection(), 3), kMetres);
-        Fill("CorrDraftAft", Rounded(mDraft.AftTrueDraft(), 3), kMetres);
+        Fill("FwdMeanDraft", RoundIfPresent(mDraft.FwdMean(), 3), kMetres);
+        Fill("FwdCorrection", RoundIfPresent(mDraft.FwdCorrection(), 3), kMetres);
+        Fill("CorrDraftFwd", RoundIfPresent(mDraft.FwdTrueDraft(), 3), kMetres);
+        Fill("AftMeanDraft", RoundIfPresent(mDraft.AftMean(), 3), kMetres);
+        Fill("AftCorrection", RoundIfPresent(mDraft.AftCorrection(), 3), kMetres);
+        Fill("CorrDraftAft", RoundIfPresent(mDraft.AftTrueDraft(), 3), kMetres);
         const bool measured = !mDraft.FwdMean().IsAbsent();
         Fill("FwdAftMean", measured ? (mDraft.FwdMean() + mDraft.AftMean()) / Value(std::int16_t {2}) : Value(),
              kMetres);
         Fill("MidPortDraft", mDraft.MidPort(), kMetres);
         Fill("MidStbdDraft", mDraft.MidStbd(), kMetres);
-        Fill("MeanMidDraft", Rounded(mDraft.MidMean(), 3), kMetres);
+        Fill("MeanMidDraft", RoundIfPresent(mDraft.MidMean(), 3), kMetres);
         if (measured)
             FillDeflection();
-        Fill("TrueMeanDraft", Rounded(mDraft.TrueMeanDraft(), 8), kMetres);
+        Fill("TrueMeanDraft", RoundIfPresent(mDraft.TrueMeanDraft(), 8), kMetres);
     }
 
     void FillDeflection() const
@@ -130,15 +125,15 @@ private:
     void FillDisplacements() const
     {
         const auto &items = mDraft.FinalResult();
-        Fill("DispInSeaWater", Rounded(items[0], 5), kTonnes);
-        Fill("1stTrimCorr", Rounded(items[1], 4), kTonnes);
-        Fill("2ndTrimCorr", Rounded(items[2], 4), kTonnes);
-        Fill("TotTrimCorr", Rounded(items[3], 4), kTonnes);
-        Fill("DispAtEvenKeel", Rounded(items[5], 5), kTonnes);
+        Fill("DispInSeaWater", RoundIfPresent(items[0], 5), kTonnes);
+        Fill("1stTrimCorr", RoundIfPresent(items[1], 4), kTonnes);
+        Fill("2ndTrimCorr", RoundIfPresent(items[2], 4), kTonnes);
+        Fill("TotTrimCorr", RoundIfPresent(items[3], 4), kTonnes);
+        Fill("DispAtEvenKeel", RoundIfPresent(items[5], 5), kTonnes);
         Fill("Density", mDraft.SpecificGravity());
-        Fill("TrueDisplacement", Rounded(items[kTrueDisplacement], 5), kTonnes);
-        Fill("TotDeductibles2", Rounded(items[kTotalDeductibles], 5), kTonnes);
-        Fill("NGDisp", Rounded(mDraft.NetDisplacement(), 5), kTonnes);
+        Fill("TrueDisplacement", RoundIfPresent(items[kTrueDisplacement], 5), kTonnes);
+        Fill("TotDeductibles2", RoundIfPresent(items[kTotalDeductibles], 5), kTonnes);
+        Fill("NGDisp", RoundIfPresent(mDraft.NetDisplacement(), 5), kTonnes);
     }
 
     Report &mReport;
@@ -166,14 +161,14 @@ const Value &NetDisplacementOf(const Survey &survey, const Stage &stage)
 void FillInitial(Report &report, const Survey &survey)
 {
     const clsDraft &draft = survey.Draft(Stage::Initial);
-    Column(report, "lblInit", draft).Fill(Rounded(draft.FinalResult()[kTotalDeductibles], 5));
+    Column(report, "lblInit", draft).Fill(RoundIfPresent(draft.FinalResult()[kTotalDeductibles], 5));
 }
 
 void FillFinal(Report &report, const Survey &survey)
 {
     const clsDraft &draft = survey.Draft(Stage::Final);
     // The net displacement in the total's row, and meant to be.
-    Column(report, "lblFin", draft).Fill(Rounded(draft.NetDisplacement(), 5));
+    Column(report, "lblFin", draft).Fill(RoundIfPresent(draft.NetDisplacement(), 5));
 }
 
 void FillConstant(Report &report, const Survey &survey, const Stage &stage)

@@ -42,9 +42,8 @@ void DeductionGrid::Rebuild()
     const int current = std::min(fgrdDeduction.CurrentRow(), items - 1);
     fgrdDeduction.SetSize(items, 2);
     fgrdDeduction.SetFixed(0, 1);
-    int row = 0;
-    for (mRsItems.MoveFirst(); !mRsItems.AtEnd(); mRsItems.MoveNext())
-        fgrdDeduction.SetCell(row++, 0, ScreenText(mRsItems.Fields("ItemName")));
+    for (int row = 0; const Recordset::Row &item : mRsItems.EachRow())
+        fgrdDeduction.SetCell(row++, 0, ScreenText(item.Fields("ItemName")));
     fgrdDeduction.PlaceCurrent(current, kQuantityColumn);
     txtGridTextbox->clear();
     txtGridTextbox->Place(fgrdDeduction, fgrdDeduction.CurrentRow(), fgrdDeduction.CurrentColumn());
@@ -157,21 +156,19 @@ void DeductionGrid::Show(const clsDraft &draft, bool zeroFilled)
     mWithheld = false;
     Blank();
     const std::vector<ItemQuantity> *quantities = draft.Deductions();
-    if (!draft.IsThere() || mRsItems.State() != 1 || !quantities)
+    if (!draft.IsThere() || !mRsItems.IsOpen() || !quantities)
         return;
     if (quantities->empty() ? draft.HasRecord() : zeroFilled)
         for (int row = 0; row < fgrdDeduction.rowCount(); ++row)
             fgrdDeduction.SetCell(row, kQuantityColumn, QStringLiteral("0"));
-    for (const ItemQuantity &each : *quantities) {
-        int row = 0;
-        for (mRsItems.MoveFirst(); !mRsItems.AtEnd() && !(mRsItems.Fields("ItemID") == each.itemID);
-             mRsItems.MoveNext())
-            ++row;
+    for (int row = 0; const Recordset::Row &item : mRsItems.EachRow()) {
         // An item deleted from the master drops out of the grid.
-        if (mRsItems.AtEnd())
-            continue;
-        const bool blank = IsZero(each.quantity) && !draft.HasRecord();
-        fgrdDeduction.SetCell(row, kQuantityColumn, blank ? QString() : ScreenText(each.quantity));
+        const auto found = std::ranges::find(*quantities, item.Fields("ItemID"), &ItemQuantity::itemID);
+        if (found != quantities->end()) {
+            const bool blank = IsZero(found->quantity) && !draft.HasRecord();
+            fgrdDeduction.SetCell(row, kQuantityColumn, blank ? QString() : ScreenText(found->quantity));
+        }
+        ++row;
     }
     txtGridTextbox->setText(fgrdDeduction.Cell(fgrdDeduction.CurrentRow(), kQuantityColumn));
 }
@@ -182,13 +179,12 @@ bool DeductionGrid::Collect(clsDraft &draft)
     Validate(mRefused);
     if (mRefused)
         return false;
-    if (mRsItems.State() != 1)
+    if (!mRsItems.IsOpen())
         return true;
-    int row = 0;
-    for (mRsItems.MoveFirst(); !mRsItems.AtEnd(); mRsItems.MoveNext(), ++row) {
-        const QString quantity = fgrdDeduction.Cell(row, kQuantityColumn);
+    for (int row = 0; const Recordset::Row &item : mRsItems.EachRow()) {
+        const QString quantity = fgrdDeduction.Cell(row++, kQuantityColumn);
         if (!mWithheld || !quantity.isEmpty())
-            draft.Deduction(mRsItems.Fields("ItemID"), DecimalOrZero(quantity));
+            draft.Deduction(item.Fields("ItemID"), DecimalOrZero(quantity));
     }
     return true;
 }

@@ -43,16 +43,6 @@ void ShowTable(Grid &grid, int firstRow, int firstColumn, const auto &table)
 }
 } // namespace
 
-Value RoundField(const Value &value, int places)
-{
-    return value.IsEmptyText() ? value : Round(value, places);
-}
-
-Value BlankIfZero(const Value &value)
-{
-    return value == Value::Zero() ? Value::EmptyText() : value;
-}
-
 ResultsView::ResultsView(const Ui::SurveyWindow &controls)
     : ui(controls)
 {
@@ -105,20 +95,20 @@ void ResultsView::ClearListCorrection() const
 
 void ResultsView::ShowDrafts(const clsDraft &draft) const
 {
-    ShowValue(*ui.txtFwdMean, RoundField(draft.FwdMean(), 3));
-    ShowValue(*ui.txtMidshipMean, RoundField(draft.MidMean(), 3));
-    ShowValue(*ui.txtAftMean, RoundField(draft.AftMean(), 3));
+    ShowValue(*ui.txtFwdMean, RoundIfPresent(draft.FwdMean(), 3));
+    ShowValue(*ui.txtMidshipMean, RoundIfPresent(draft.MidMean(), 3));
+    ShowValue(*ui.txtAftMean, RoundIfPresent(draft.AftMean(), 3));
     if (draft.IsThere())
         ShowDeflection(draft);
-    ShowValue(*ui.txtApparentTrim, RoundField(draft.ApparentTrim(), 7));
-    ShowValue(*ui.txtFwdCorrection, RoundField(draft.FwdCorrection(), 3));
-    ShowValue(*ui.txtMidshipCorrection, RoundField(draft.MidCorrection(), 3));
-    ShowValue(*ui.txtAftCorrection, RoundField(draft.AftCorrection(), 3));
-    ShowValue(*ui.txtFwdTrueDraft, RoundField(draft.FwdTrueDraft(), 3));
-    ShowValue(*ui.txtMidshipTrueDraft, RoundField(draft.MidTrueDraft(), 3));
-    ShowValue(*ui.txtAftTrueDraft, RoundField(draft.AftTrueDraft(), 3));
-    ShowValue(*ui.txtTrueTrim, RoundField(draft.TrueTrim(), 3));
-    ShowValue(*ui.txtTrueMeanDraft, RoundField(draft.TrueMeanDraft(), 8));
+    ShowValue(*ui.txtApparentTrim, RoundIfPresent(draft.ApparentTrim(), 7));
+    ShowValue(*ui.txtFwdCorrection, RoundIfPresent(draft.FwdCorrection(), 3));
+    ShowValue(*ui.txtMidshipCorrection, RoundIfPresent(draft.MidCorrection(), 3));
+    ShowValue(*ui.txtAftCorrection, RoundIfPresent(draft.AftCorrection(), 3));
+    ShowValue(*ui.txtFwdTrueDraft, RoundIfPresent(draft.FwdTrueDraft(), 3));
+    ShowValue(*ui.txtMidshipTrueDraft, RoundIfPresent(draft.MidTrueDraft(), 3));
+    ShowValue(*ui.txtAftTrueDraft, RoundIfPresent(draft.AftTrueDraft(), 3));
+    ShowValue(*ui.txtTrueTrim, RoundIfPresent(draft.TrueTrim(), 3));
+    ShowValue(*ui.txtTrueMeanDraft, RoundIfPresent(draft.TrueMeanDraft(), 8));
 }
 
 void ResultsView::ShowDeflection(const clsDraft &draft) const
@@ -141,7 +131,7 @@ void ResultsView::ShowFigures(const clsDraft &draft, bool listCorrected) const
     if (listCorrected)
         ShowListCorrection(draft);
     for (int row = 0; const int places : kFinalPlaces) {
-        ShowCell(row, RoundField(draft.FinalResult()[static_cast<std::size_t>(row)], places));
+        ShowCell(row, RoundIfPresent(draft.FinalResult()[static_cast<std::size_t>(row)], places));
         ++row;
     }
     SetCellRed(kNetDisplacement, !LiesBetween(draft.NetDisplacement(), 0, 1000000));
@@ -150,9 +140,9 @@ void ResultsView::ShowFigures(const clsDraft &draft, bool listCorrected) const
 void ResultsView::ShowHydrostatics(const clsDraft &draft) const
 {
     ShowTable(*ui.fgrdHDT, 1, 1, draft.HDT());
-    ShowValue(*ui.txtIpFactor, RoundField(draft.IpFactor(), 7));
-    ShowValue(*ui.txtMCTCPlus50IpFactor, RoundField(draft.MCTCPlus50IpFactor(), 7));
-    ShowValue(*ui.txtMCTCMinus50IpFactor, RoundField(draft.MCTCMinus50IpFactor(), 7));
+    ShowValue(*ui.txtIpFactor, RoundIfPresent(draft.IpFactor(), 7));
+    ShowValue(*ui.txtMCTCPlus50IpFactor, RoundIfPresent(draft.MCTCPlus50IpFactor(), 7));
+    ShowValue(*ui.txtMCTCMinus50IpFactor, RoundIfPresent(draft.MCTCMinus50IpFactor(), 7));
     ShowTable(*ui.fgrdIpResult, 0, 1, draft.IpResult());
 
     const auto &results = draft.IpResult()[1];

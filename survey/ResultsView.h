@@ -55,8 +55,3 @@ private:
 
     const Ui::SurveyWindow &ui;
 };
-
-/// `value` rounded; empty text stays empty text.
-[[nodiscard]] Value RoundField(const Value &value, int places);
-/// Empty text in place of 0.
-[[nodiscard]] Value BlankIfZero(const Value &value);

@@ -75,11 +75,11 @@ void SurveyLists::FillTimes(const QString &date)
                        + DailyDraftsOf(mSurvey),
                    CursorType::Static, LockType::ReadOnly);
     ui.cmbTime->clear();
-    if (mRsTime.RecordCount() < 1)
+    if (!mRsTime.HasRows())
         return;
     mRsTime.Filter("DSDate = " + date.toStdString());
-    for (; !mRsTime.AtEnd(); mRsTime.MoveNext())
-        ui.cmbTime->addItem(ScreenText(mRsTime.Fields("DSTime")));
+    for (const Recordset::Row &row : mRsTime.EachRow())
+        ui.cmbTime->addItem(ScreenText(row.Fields("DSTime")));
     mRsTime.Filter("");
     ui.cmbTime->setCurrentIndex(-1);
 }
@@ -105,16 +105,15 @@ try {
                             + std::to_string(mSurvey.RecordID())
                             + " AND (DraftType = 0 or DraftType = 2) ORDER BY DD.DraftType, DD.DateTime",
                         CursorType::Keyset, LockType::BatchOptimistic);
-    if (mRsDailyList.RecordCount() < 1)
+    if (!mRsDailyList.HasRows())
         return;
     {
         const QSignalBlocker quiet(mBaselines);
         mBaselines->clear();
         // The first row is the Initial draft's, whatever its date.
-        mBaselines->addItem(QStringLiteral("Initial Draft"));
-        mRsDailyList.MoveFirst();
-        for (mRsDailyList.MoveNext(); !mRsDailyList.AtEnd(); mRsDailyList.MoveNext())
-            mBaselines->addItem(ScreenText(mRsDailyList.Fields("DateTime")));
+        for (const Recordset::Row &row : mRsDailyList.EachRow())
+            mBaselines->addItem(ScreenText(row.Fields("DateTime")));
+        mBaselines->setItemText(0, QStringLiteral("Initial Draft"));
     }
     PickFirstBaseline();
 } catch (const RuntimeError &error) {
@@ -135,13 +134,13 @@ void SurveyLists::PickFirstBaseline()
 void SurveyLists::PickBaseline()
 {
     // The drafts that the list names may be gone.
-    if (mRsDailyList.State() == 1 && mRsDailyList.RecordCount() > 0)
+    if (mRsDailyList.HasRows())
         mBaselinePicked();
 }
 
 void SurveyLists::FindShip(const Value &shipID)
 {
-    mRsShip.Find("ShipID = " + shipID.SqlText(), 0, Recordset::kSearchForward, Recordset::kBookmarkFirst);
+    mRsShip.FindFirst("ShipID = " + shipID.SqlText());
 }
 
 bool SurveyLists::InitialIsBaseline() const
@@ -159,13 +158,11 @@ Value SurveyLists::BaselineNetDisplacement()
 
 std::string SurveyLists::PortText(const Value &portID)
 {
-    const auto find = [&] {
-        mRsPort.Find("PortID = " + portID.SqlText(), 0, Recordset::kSearchForward, Recordset::kBookmarkFirst);
-    };
-    find();
+    const std::string criterion = "PortID = " + portID.SqlText();
+    mRsPort.FindFirst(criterion);
     if (mRsPort.AtEnd()) {
         mRsPort.Requery();
-        find();
+        mRsPort.FindFirst(criterion);
     }
     return mRsPort.Fields("PortName").Text() + ", " + TextOrEmpty(mRsPort.Fields("Country"));
 }

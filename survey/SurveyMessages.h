@@ -6,11 +6,6 @@
 #include <string>
 #include <string_view>
 
-inline void TellExclamation(std::string_view text)
-{
-    MsgBox(text, MsgIcon::Exclamation);
-}
-
 inline void TellInvalidInput(std::string_view text)
 {
     TellExclamation(std::string(text).append(kTwoLineBreaks).append("Please check your input values."));

@@ -300,6 +300,21 @@ Value Round(const Value &value, int places)
     return number;
 }
 
+Value RoundIfPresent(const Value &value, int places)
+{
+    return value.IsAbsent() ? value : Round(value, places);
+}
+
+Value BlankIfZero(const Value &value)
+{
+    return value == Value::Zero() ? Value::EmptyText() : value;
+}
+
+bool LiesBetween(const Value &value, std::int32_t low, std::int32_t high)
+{
+    return value.IsNumber() && value > Value(low) && value < Value(high);
+}
+
 bool IsZero(const Value &value)
 {
     return value.IsAbsent() || value == Value::Zero();

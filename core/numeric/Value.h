@@ -107,8 +107,23 @@ private:
 /// first, no value counts as the 16-bit integer 0. Errors as for the conversions.
 [[nodiscard]] Value Round(const Value &value, int places);
 
+/// The same; what is absent stays absent.
+[[nodiscard]] Value RoundIfPresent(const Value &value, int places);
+
+/// Empty text in place of 0.
+[[nodiscard]] Value BlankIfZero(const Value &value);
+
 /// 0 of any kind, or absent.
 [[nodiscard]] bool IsZero(const Value &value);
+
+/// A number strictly between two bounds; false for anything that is no number.
+[[nodiscard]] bool LiesBetween(const Value &value, std::int32_t low, std::int32_t high);
+
+/// Errors as for the comparison.
+[[nodiscard]] inline bool IsNegative(const Value &value)
+{
+    return value < Value::Zero();
+}
 
 /// The value, or Zero for one that is absent.
 [[nodiscard]] Value ZeroIfAbsent(const Value &value);

@@ -1,5 +1,6 @@
 #include "frame/controls/DataCombo.h"
 
+#include "frame/controls/ScreenText.h"
 #include "frame/store/Recordset.h"
 
 #include <QAbstractItemView>
@@ -16,10 +17,6 @@ namespace
 constexpr int kLeastCharacters = 10;
 constexpr int kVisibleRows = 16;
 
-QString TextOf(const Value &value)
-{
-    return value.IsNull() ? QString() : QString::fromStdString(value.Text());
-}
 } // namespace
 
 DataCombo::DataCombo(QWidget *parent)
@@ -47,16 +44,16 @@ void DataCombo::setEditable(bool editable)
     setEditText(mText);
 }
 
-void DataCombo::SetRows(Recordset &rows, const std::string &listField, const std::string &boundColumn)
+void DataCombo::SetRows(const Recordset &rows, const std::string &listField, const std::string &boundColumn)
 {
     const QSignalBlocker quiet(this);
     const Value bound = BoundValue();
     clear();
     mBound.clear();
     QStringList texts;
-    for (rows.MoveFirst(); !rows.AtEnd(); rows.MoveNext()) {
-        texts.append(TextOf(rows.Fields(listField)));
-        mBound.push_back(boundColumn.empty() ? Value() : rows.Fields(boundColumn));
+    for (const Recordset::Row &row : rows.EachRow()) {
+        texts.append(ScreenText(TextOrEmpty(row.Fields(listField))));
+        mBound.push_back(boundColumn.empty() ? Value() : row.Fields(boundColumn));
     }
     addItems(texts);
     // The same row, though it may have been renamed; else the row that now has this text.

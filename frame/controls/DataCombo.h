@@ -26,8 +26,8 @@ public:
     void setEditable(bool editable);
 
     /// Fills the list from a recordset's rows in their order. The text in the box stays as it is; the bound
-    /// column may be empty where nothing is bound. Leaves the recordset at its end.
-    void SetRows(Recordset &rows, const std::string &listField, const std::string &boundColumn = {});
+    /// column may be empty where nothing is bound.
+    void SetRows(const Recordset &rows, const std::string &listField, const std::string &boundColumn = {});
 
     [[nodiscard]] QString Text() const;
     /// Puts a text into the box; picks the row of that text where there is one, none otherwise. A list-only box keeps

@@ -1,5 +1,6 @@
 #include "frame/controls/DataList.h"
 
+#include "frame/controls/ScreenText.h"
 #include "frame/store/Recordset.h"
 
 #include <QKeyEvent>
@@ -17,16 +18,14 @@ DataList::DataList(QWidget *parent)
     setTabKeyNavigation(false);
 }
 
-void DataList::SetRows(Recordset &rows, const std::string &listField, const std::string &boundColumn)
+void DataList::SetRows(const Recordset &rows, const std::string &listField, const std::string &boundColumn)
 {
     QStringList texts;
     std::vector<Value> bound;
-    for (rows.MoveFirst(); !rows.AtEnd(); rows.MoveNext()) {
-        const Value text = rows.Fields(listField);
-        texts.append(text.IsNull() ? QString() : QString::fromStdString(text.Text()));
-        bound.push_back(rows.Fields(boundColumn));
+    for (const Recordset::Row &row : rows.EachRow()) {
+        texts.append(ScreenText(TextOrEmpty(row.Fields(listField))));
+        bound.push_back(row.Fields(boundColumn));
     }
-    rows.MoveFirst();
     const QSignalBlocker quiet(this);
     mTexts->setStringList(texts);
     mBound = std::move(bound);

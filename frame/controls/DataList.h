@@ -21,9 +21,8 @@ class DataList : public QListView
 public:
     explicit DataList(QWidget *parent = nullptr);
 
-    /// Fills the list from a recordset's rows in their order; no row is picked afterwards. Leaves the recordset at its
-    /// first row.
-    void SetRows(Recordset &rows, const std::string &listField, const std::string &boundColumn);
+    /// Fills the list from a recordset's rows in their order; no row is picked afterwards.
+    void SetRows(const Recordset &rows, const std::string &listField, const std::string &boundColumn);
 
     /// The bound value of the picked row, no value where none is picked.
     [[nodiscard]] Value BoundValue() const;

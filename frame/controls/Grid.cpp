@@ -1,6 +1,7 @@
 #include "frame/controls/Grid.h"
 
 #include "frame/controls/Colours.h"
+#include "frame/controls/Headings.h"
 
 #include <QEvent>
 #include <QHeaderView>
@@ -11,7 +12,6 @@
 namespace
 {
 constexpr int kRedRole = Qt::UserRole;
-constexpr int kRoomAboveAndBelow = 6;
 
 // Finds a cell's colours when it is drawn, so that they are always those of the present palette.
 class CellLooks : public QStyledItemDelegate
@@ -55,21 +55,14 @@ Grid::Grid(QWidget *parent)
     setHorizontalScrollMode(ScrollPerPixel);
     horizontalHeader()->hide();
     verticalHeader()->hide();
-    FitRowHeight();
-}
-
-void Grid::FitRowHeight()
-{
-    const int height = fontMetrics().height() + kRoomAboveAndBelow;
-    verticalHeader()->setMinimumSectionSize(height);
-    verticalHeader()->setDefaultSectionSize(height);
+    FitRowHeight(*this);
 }
 
 void Grid::changeEvent(QEvent *event)
 {
     QTableWidget::changeEvent(event);
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
-        FitRowHeight();
+        FitRowHeight(*this);
 }
 
 void Grid::SetSize(int rows, int columns)

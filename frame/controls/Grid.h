@@ -59,7 +59,6 @@ private:
     [[nodiscard]] QTableWidgetItem &ItemAt(int row, int column);
     [[nodiscard]] bool MayBeCurrent(int row, int column) const;
     void KeepCurrentInside();
-    void FitRowHeight();
 
     QHash<int, Qt::Alignment> mAlignments;
     int mRow = 0;

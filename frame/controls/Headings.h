@@ -1,7 +1,8 @@
 #pragma once
 
 #include <QFont>
-#include <QWidget>
+#include <QHeaderView>
+#include <QTableView>
 
 /// Sizes of a window's heading and of its legend beside the window's own text.
 inline constexpr double kHeadingSize = 1.2;
@@ -12,4 +13,13 @@ inline void ScaleFont(QWidget &widget, double factor)
     QFont font = widget.font();
     font.setPointSizeF(font.pointSizeF() * factor);
     widget.setFont(font);
+}
+
+/// Rows as high as a line of the grid's text and a little more; again after each change of font or style.
+inline void FitRowHeight(const QTableView &grid)
+{
+    constexpr int kRoomAboveAndBelow = 6;
+    const int height = grid.fontMetrics().height() + kRoomAboveAndBelow;
+    grid.verticalHeader()->setMinimumSectionSize(height);
+    grid.verticalHeader()->setDefaultSectionSize(height);
 }

@@ -38,14 +38,3 @@ inline void ShowValue(QLineEdit &field, const Value &value)
 {
     return IsBlank(text) ? Value(Decimal()) : DecimalOf(text);
 }
-
-/// A number strictly between two bounds; false for anything that is no number.
-[[nodiscard]] inline bool LiesBetween(const Value &value, std::int32_t low, std::int32_t high)
-{
-    return value.IsNumber() && value > Value(low) && value < Value(high);
-}
-
-[[nodiscard]] inline bool IsNegative(const Value &value)
-{
-    return value < Value(std::int16_t {0});
-}

@@ -1,7 +1,5 @@
 #include "frame/platform/Form.h"
 
-#include "core/numeric/RuntimeError.h"
-
 #include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
@@ -35,33 +33,6 @@ Form::Form(QWidget *parent)
 Form::~Form()
 {
     Forms::Remove(this);
-}
-
-void Form::Form_Unload(bool & /*cancel*/) { }
-
-bool Form::Form_KeyPress(QKeyEvent & /*event*/)
-{
-    return false;
-}
-
-void Form::RNew()
-{
-    throw RuntimeError(ErrorNumber::NoSuchOperation);
-}
-
-void Form::RSave()
-{
-    throw RuntimeError(ErrorNumber::NoSuchOperation);
-}
-
-void Form::RDelete()
-{
-    throw RuntimeError(ErrorNumber::NoSuchOperation);
-}
-
-void Form::RPrint(bool /*blnShowPreview*/)
-{
-    throw RuntimeError(ErrorNumber::NoSuchOperation);
 }
 
 bool Form::Unload()

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/numeric/RuntimeError.h"
+
 #include <QHash>
 #include <QWidget>
 
@@ -50,15 +52,15 @@ public:
     /// The window became the active one.
     virtual void Form_Activate() { }
     /// The window is about to close; cancel keeps it open.
-    virtual void Form_Unload(bool &cancel);
+    virtual void Form_Unload(bool & /*cancel*/) { }
     /// A key on its way to the active control. True swallows it.
-    virtual bool Form_KeyPress(QKeyEvent &event);
+    virtual bool Form_KeyPress(QKeyEvent & /*event*/) { return false; }
 
-    virtual void RNew();
-    virtual void RSave();
-    virtual void RDelete();
+    virtual void RNew() { throw RuntimeError(ErrorNumber::NoSuchOperation); }
+    virtual void RSave() { throw RuntimeError(ErrorNumber::NoSuchOperation); }
+    virtual void RDelete() { throw RuntimeError(ErrorNumber::NoSuchOperation); }
     void RPrint() { RPrint(true); }
-    virtual void RPrint(bool blnShowPreview);
+    virtual void RPrint(bool /*blnShowPreview*/) { throw RuntimeError(ErrorNumber::NoSuchOperation); }
 
     /// Closes the window with its checks and questions. True where it went.
     bool Unload();

@@ -6,65 +6,27 @@
 #include <QKeyEvent>
 #include <QMessageBox>
 
+#include <algorithm>
+#include <array>
+
 namespace
 {
-QMessageBox::Icon IconOf(MsgIcon icon)
-{
-    switch (icon) {
-    case MsgIcon::Critical:
-        return QMessageBox::Critical;
-    case MsgIcon::Question:
-        return QMessageBox::Question;
-    case MsgIcon::Exclamation:
-        return QMessageBox::Warning;
-    case MsgIcon::Information:
-        return QMessageBox::Information;
-    case MsgIcon::None:
-        break;
-    }
-    return QMessageBox::NoIcon;
-}
+// In the order of MsgIcon, MsgButtons and MsgAnswer.
+constexpr std::array kIcons {QMessageBox::NoIcon, QMessageBox::Critical, QMessageBox::Question, QMessageBox::Warning,
+                             QMessageBox::Information};
+constexpr std::array<QMessageBox::StandardButtons, 3> kButtons {
+    QMessageBox::Ok, QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel};
+constexpr std::array kAnswers {QMessageBox::Ok, QMessageBox::Cancel, QMessageBox::Yes, QMessageBox::No};
 
-QMessageBox::StandardButtons ButtonsOf(MsgButtons buttons)
+template<class Choice> auto Of(const auto &table, Choice choice)
 {
-    switch (buttons) {
-    case MsgButtons::YesNo:
-        return QMessageBox::Yes | QMessageBox::No;
-    case MsgButtons::YesNoCancel:
-        return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
-    case MsgButtons::Ok:
-        break;
-    }
-    return QMessageBox::Ok;
-}
-
-QMessageBox::StandardButton ButtonOf(MsgAnswer answer)
-{
-    switch (answer) {
-    case MsgAnswer::Yes:
-        return QMessageBox::Yes;
-    case MsgAnswer::No:
-        return QMessageBox::No;
-    case MsgAnswer::Cancel:
-        return QMessageBox::Cancel;
-    case MsgAnswer::Ok:
-        break;
-    }
-    return QMessageBox::Ok;
+    return table.at(static_cast<std::size_t>(choice));
 }
 
 MsgAnswer AnswerOf(int button)
 {
-    switch (button) {
-    case QMessageBox::Yes:
-        return MsgAnswer::Yes;
-    case QMessageBox::No:
-        return MsgAnswer::No;
-    case QMessageBox::Cancel:
-        return MsgAnswer::Cancel;
-    default:
-        return MsgAnswer::Ok;
-    }
+    const auto found = std::ranges::find(kAnswers, button);
+    return found == kAnswers.end() ? MsgAnswer::Ok : static_cast<MsgAnswer>(found - kAnswers.begin());
 }
 
 class MessageBoxWindow : public QMessageBox
@@ -77,11 +39,11 @@ public:
         setTextFormat(Qt::PlainText);
         setText(QString::fromStdString(message.text));
         setWindowTitle(QString::fromStdString(message.caption));
-        setIcon(IconOf(message.icon));
-        setStandardButtons(ButtonsOf(message.buttons));
+        setIcon(Of(kIcons, message.icon));
+        setStandardButtons(Of(kButtons, message.buttons));
         // A plain question has no answer that is meant by Ok: the first button is the default then.
-        if (button(ButtonOf(message.defaultAnswer)))
-            setDefaultButton(ButtonOf(message.defaultAnswer));
+        if (button(Of(kAnswers, message.defaultAnswer)))
+            setDefaultButton(Of(kAnswers, message.defaultAnswer));
         else
             setDefaultButton(QMessageBox::Yes);
     }

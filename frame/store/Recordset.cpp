@@ -82,6 +82,8 @@ void Recordset::Rows::StandAt(std::int64_t newPlace) noexcept
 
 Recordset::Recordset() = default;
 Recordset::~Recordset() = default;
+Recordset::Recordset(Recordset &&other) noexcept = default;
+Recordset &Recordset::operator=(Recordset &&other) noexcept = default;
 
 Recordset::Rows &Recordset::Opened() const
 {
@@ -110,9 +112,9 @@ void Recordset::Close()
     mRows.reset();
 }
 
-int Recordset::State() const noexcept
+bool Recordset::HasRows() const noexcept
 {
-    return mRows == nullptr ? 0 : 1;
+    return IsOpen() && mRows->Size() > 0;
 }
 
 void Recordset::Reopen(std::string_view sql, CursorType cursor, LockType lock)
@@ -181,8 +183,23 @@ void Recordset::Move(std::int64_t rows, std::optional<Bookmark> start)
 Value Recordset::Fields(std::string_view column) const
 {
     const Rows &rows = Opened();
-    const std::size_t row = rows.CurrentRow();
-    return rows.table.ValueOf(rows.table.At(rows.table.RequireColumn(column), row));
+    return Row(rows, rows.CurrentRow()).Fields(column);
+}
+
+Value Recordset::Row::Fields(std::string_view column) const
+{
+    const RowTable &table = mRows->table;
+    return table.ValueOf(table.At(table.RequireColumn(column), mRow));
+}
+
+std::vector<Recordset::Row> Recordset::EachRow() const
+{
+    const Rows &rows = Opened();
+    std::vector<Row> each;
+    each.reserve(rows.order.size());
+    for (const std::uint32_t row : rows.order)
+        each.push_back(Row(rows, row));
+    return each;
 }
 
 void Recordset::Find(std::string_view criterion, std::int64_t skip, int direction, std::optional<Bookmark> start)

@@ -9,6 +9,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 enum class CursorType : std::uint8_t { Keyset = 1, Dynamic = 2, Static = 3 };
 enum class LockType : std::uint8_t { ReadOnly = 1, Optimistic = 3, BatchOptimistic = 4 };
@@ -33,10 +34,12 @@ using Bookmark = std::int64_t;
 class Recordset
 {
 public:
+    struct Rows; ///< what an open set holds
+
     Recordset();
     ~Recordset();
-    Recordset(const Recordset &) = delete;
-    Recordset &operator=(const Recordset &) = delete;
+    Recordset(Recordset &&other) noexcept;
+    Recordset &operator=(Recordset &&other) noexcept;
 
     /// Where Find starts when it does not start at the current row.
     static constexpr Bookmark kBookmarkFirst = 1;
@@ -47,8 +50,9 @@ public:
     void Open(std::string_view sql, CursorType cursor, LockType lock);
     /// WrongState when it is not open. A pending edit is dropped.
     void Close();
-    /// 1 when open, 0 when closed.
-    [[nodiscard]] int State() const noexcept;
+    [[nodiscard]] bool IsOpen() const noexcept { return mRows != nullptr; }
+    /// It is open, and there is a row in sight.
+    [[nodiscard]] bool HasRows() const noexcept;
     /// Open, in place of the rows that are there: what every list and lookup does. Where it fails the old rows stay.
     void Reopen(std::string_view sql, CursorType cursor, LockType lock);
     /// Fetches the rows again with the same statement; a Sort that was set stays in force, a Filter too.
@@ -81,6 +85,28 @@ public:
     void Find(std::string_view criterion, std::int64_t skip = 0, int direction = kSearchForward,
               std::optional<Bookmark> start = std::nullopt);
 
+    /// Find from the first row.
+    void FindFirst(std::string_view criterion) { Find(criterion, 0, kSearchForward, kBookmarkFirst); }
+
+    /// One row, for reading only.
+    class Row
+    {
+    public:
+        [[nodiscard]] Value Fields(std::string_view column) const;
+
+    private:
+        friend Recordset;
+        Row(const Rows &rows, std::size_t row)
+            : mRows(&rows)
+            , mRow(row)
+        {
+        }
+        const Rows *mRows;
+        std::size_t mRow;
+    };
+    /// The rows in sight, in their order, until the set is closed, requeried or opened again. It stands where it stood.
+    [[nodiscard]] std::vector<Row> EachRow() const;
+
     /// The current row's name; going to a bookmark of a row that is gone raises NoCurrentRow.
     [[nodiscard]] Bookmark CurrentBookmark() const;
     void GoTo(Bookmark bookmark);
@@ -100,8 +126,6 @@ public:
     /// "Column ASC" or "Column DESC"; empty text for the order of the statement. Equal rows keep that order.
     /// Text is ordered without regard to case. Stands at the first row afterwards.
     void Sort(std::string_view order);
-
-    struct Rows; ///< what an open set holds
 
 private:
     [[nodiscard]] Rows &Opened() const; ///< WrongState

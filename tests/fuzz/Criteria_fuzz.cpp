@@ -22,7 +22,7 @@ constexpr const char *kRows
 Recordset &Rows()
 {
     static Recordset rows;
-    if (rows.State() == 0) {
+    if (!rows.IsOpen()) {
         const auto folder = std::filesystem::temp_directory_path() / ("keelmark_fuzz" + std::to_string(getpid()));
         std::filesystem::create_directories(folder);
         KEELMARK_EXPECT(MakeStore(folder / "DS.dat", StoreContent::Initial));

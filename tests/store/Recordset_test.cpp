@@ -92,13 +92,13 @@ TEST_F(Rows, OpensOneSelectAndNothingElse)
     for (const char *bad : {"", "DELETE FROM Port", "INSERT INTO Port (PortName) VALUES ('a') RETURNING PortID",
                             "SELECT * FROM Port; DELETE FROM Port", "SELECT * FROM NoTable", "SELECT 'O'Brien'"}) {
         EXPECT_EQ(open(bad), StatementFailed) << bad;
-        EXPECT_EQ(rows.State(), 0);
+        EXPECT_FALSE(rows.IsOpen());
     }
     EXPECT_EQ(Ask("SELECT count(*) FROM Port").ToLong(), 3);
     EXPECT_EQ(ErrorOf([&] { (void)rows.RecordCount(); }), WrongState);
     EXPECT_EQ(ErrorOf([&] { rows.Close(); }), WrongState);
     EXPECT_EQ(open("SELECT * FROM Port"), 0);
-    EXPECT_EQ(rows.State(), 1);
+    EXPECT_TRUE(rows.IsOpen());
     EXPECT_EQ(open("SELECT * FROM Port"), WrongState);
 
     // The rows are in memory: they outlive the connection, but cannot be fetched anew.
