@@ -136,15 +136,22 @@ std::optional<std::string> Survey::StoredCargo()
     return mRsParticulars.Fields("Cargo").Text();
 }
 
+bool Survey::IsConstantOf(const clsDraft &draft) const
+{
+    if (!mDirection.noConstant.empty() || !mConstant.IsNumber() || !draft.NetDisplacement().IsNumber())
+        return false;
+    // The ship may have been changed since the draft was worked out, and before or after the constant was.
+    return mConstant == draft.NetDisplacement() - draft.FinalResult()[10]
+        || mConstant == draft.NetDisplacement() - mShip.LightShip();
+}
+
 bool Survey::WorkOutDrafts(const Stage &shown)
 {
     const UnsaidMessages quiet;
     bool shownChanged = false;
     for (const Stage &stage : Stage::All()) {
         clsDraft &draft = Draft(stage);
-        // By the light ship that it was worked out with: she may be another ship's by now.
-        const bool givesConstant = stage == Stage::Initial && mConstant.IsNumber() && draft.NetDisplacement().IsNumber()
-            && mConstant == draft.NetDisplacement() - draft.FinalResult()[10];
+        const bool givesConstant = stage == Stage::Initial && IsConstantOf(draft);
         if (!draft.ToSave() || !draft.Recalculate())
             continue;
         // The figures of the later stages, and the constant, rest on the Initial draft.

@@ -83,6 +83,8 @@ private:
     struct SaveState;
 
     [[nodiscard]] std::string ConstantText() const;
+    /// The constant is the one that this draft gives.
+    [[nodiscard]] bool IsConstantOf(const clsDraft &draft) const;
     void WriteHeader(const SurveyHeader &header);
     [[nodiscard]] std::int32_t WriteDrafts();
     [[nodiscard]] static std::int32_t GetNewRecordID();

@@ -15,17 +15,18 @@ const Value kHalfMetre = 0.5;
 std::int32_t clsHydrostaticData::InitHDT(std::int32_t shipID)
 try {
     mFoundBrackets.clear();
-    mTable = std::make_unique<Recordset>();
-    mTable->Reopen("SELECT *  FROM HydrostaticDataTable WHERE ShipID = " + std::to_string(shipID) + " ORDER BY TMD",
-                   CursorType::Keyset, LockType::BatchOptimistic);
-    return mTable->RecordCount() < 1 ? ReturnCode::NoHydrostaticData : ReturnCode::Success;
+    // The table of the ship before must not be taken for hers.
+    mTable = Recordset();
+    mTable.Open("SELECT *  FROM HydrostaticDataTable WHERE ShipID = " + std::to_string(shipID) + " ORDER BY TMD",
+                CursorType::Keyset, LockType::BatchOptimistic);
+    return mTable.HasRows() ? ReturnCode::Success : ReturnCode::NoHydrostaticData;
 } catch (const RuntimeError &) {
     return ReturnCode::InitHDTFailed;
 }
 
 Value clsHydrostaticData::GetMaxTMD()
 {
-    if (Table().RecordCount() < 1)
+    if (!Table().HasRows())
         return ReturnCode::NoMaxTMD;
     Table().MoveLast();
     return Table().Fields("TMD");
@@ -156,16 +157,16 @@ bool clsHydrostaticData::FindExact(const Value &draft)
 
 void clsHydrostaticData::ReadBracketRow(BracketRow &row) const
 {
-    row.TMD = mTable->Fields("TMD");
-    row.Displacement = mTable->Fields("Displacement");
-    row.TPC = mTable->Fields("TPC");
-    row.MCTC = mTable->Fields("MCTC");
-    row.LCF = mTable->Fields("LCF");
+    row.TMD = mTable.Fields("TMD");
+    row.Displacement = mTable.Fields("Displacement");
+    row.TPC = mTable.Fields("TPC");
+    row.MCTC = mTable.Fields("MCTC");
+    row.LCF = mTable.Fields("LCF");
 }
 
 Recordset &clsHydrostaticData::Table()
 {
-    if (!mTable)
+    if (!mTable.IsOpen())
         throw RuntimeError(ErrorNumber::NoObject);
-    return *mTable;
+    return mTable;
 }

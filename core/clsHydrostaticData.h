@@ -5,7 +5,6 @@
 
 #include <array>
 #include <cstdint>
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -79,7 +78,7 @@ private:
     void TakeExact();
     Recordset &Table();
 
-    std::unique_ptr<Recordset> mTable;
+    Recordset mTable;
     Value mTMD, mDisplacement, mTPC, mMCTCPlus50, mMCTCMinus50, mLCF;
     Value mIpFactor, mIpDisplacement, mIpTPC, mIpLCF, mIpMCTCPlus50, mIpMCTCMinus50;
     Value mIfMCTCPlus50, mIfMCTCMinus50;

@@ -17,23 +17,17 @@ struct Item {
     const char *node;
     const char *text;
     int image;
-};
-
-constexpr Item kItems[] = {
-    {kShipData, "Ship Particulars", 1},  {kShipData, "Hydrostatic Data", 2},      {kShipData, "Port", 4},
-    {kDraftSurvey, "Loading Survey", 6}, {kDraftSurvey, "Discharging Survey", 7},
-};
-
-struct Target {
-    const char *name;
     ChildWindow window;
 };
 
 // Deductions stay here though no list offers them.
-constexpr Target kTargets[] = {
-    {"Ship Particulars", ChildWindow::ShipParticulars}, {"Hydrostatic Data", ChildWindow::HydrostaticData},
-    {"Deductions", ChildWindow::DeductionMaster},       {"Port", ChildWindow::Port},
-    {"Loading Survey", ChildWindow::Loading},           {"Discharging Survey", ChildWindow::Discharging},
+constexpr Item kItems[] = {
+    {kShipData, "Ship Particulars", 1, ChildWindow::ShipParticulars},
+    {kShipData, "Hydrostatic Data", 2, ChildWindow::HydrostaticData},
+    {kShipData, "Port", 4, ChildWindow::Port},
+    {kDraftSurvey, "Loading Survey", 6, ChildWindow::Loading},
+    {kDraftSurvey, "Discharging Survey", 7, ChildWindow::Discharging},
+    {"", "Deductions", 0, ChildWindow::DeductionMaster},
 };
 
 const ImageList &ImageList1()
@@ -142,10 +136,7 @@ void frmOpen::cmdOpen_Click()
         return;
     mTargetName = mUi->txtFormToOpen->text();
     accept();
-    for (const Target &target : kTargets) {
-        if (mTargetName == QLatin1String(target.name)) {
-            OpenChild(target.window);
-            return;
-        }
-    }
+    for (const Item &item : kItems)
+        if (mTargetName == QLatin1String(item.text))
+            return OpenChild(item.window);
 }

@@ -18,30 +18,12 @@ frmShipParticulars::frmShipParticulars(QWidget *parent)
     ScaleFont(*ui->lblPortNote, kLegendSize);
     ScaleFont(*ui->fmeLegend, kLegendSize);
     ui->cmbShipName->setEditable(true);
-    CollectTextBoxes();
+    for (const TextField &field : kTextFields)
+        mTextBoxes.emplace_back(*((*ui).*field.box), field.column);
     ConnectEvents();
 }
 
 frmShipParticulars::~frmShipParticulars() = default;
-
-void frmShipParticulars::CollectTextBoxes()
-{
-    mTextBoxes = {{*ui->txtCallSign, "CallSign"},
-                  {*ui->txtFlag, "Flag"},
-                  {*ui->txtOfficialNo, "OfficialNo"},
-                  {*ui->txtIMONo, "IMONo"},
-                  {*ui->txtSummerDraft, "SummerDraft"},
-                  {*ui->txtSummerDeadweight, "SummerDeadweight"},
-                  {*ui->txtGrossTonnage, "GrossTonnage"},
-                  {*ui->txtNetTonnage, "NetTonnage"},
-                  {*ui->txtLBP, "LBP"},
-                  {*ui->txtLOA, "LOA"},
-                  {*ui->txtBreadth, "Breadth"},
-                  {*ui->txtFwdX, "FwdX"},
-                  {*ui->txtMidX, "MidX"},
-                  {*ui->txtAftX, "AftX"},
-                  {*ui->txtLightShip, "LightShip"}};
-}
 
 void frmShipParticulars::ConnectEvents()
 {

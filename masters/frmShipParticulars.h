@@ -52,10 +52,18 @@ private:
     };
     /// In the order in which a save checks the fields.
     static const std::array<NumberRule, 13> kNumberRules;
+    /// One text box: its column in the store, whether that takes a number, and the demand for it.
+    struct TextField {
+        QLineEdit *Ui::frmShipParticulars::*box;
+        std::string_view column;
+        bool isNumber;
+        const char *demand;
+    };
+    /// In the order in which they must be there.
+    static const std::array<TextField, 15> kTextFields;
     /// A column and its value as a statement takes it.
     using ColumnValue = std::pair<std::string_view, std::string>;
 
-    void CollectTextBoxes();
     void ConnectEvents();
 
     void InitShipForm();

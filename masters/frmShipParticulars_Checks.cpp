@@ -41,6 +41,24 @@ const std::array<frmShipParticulars::NumberRule, 13> frmShipParticulars::kNumber
      "Summer Draft can only be a positive number greater than 0 and less than 100."},
 }};
 
+const std::array<frmShipParticulars::TextField, 15> frmShipParticulars::kTextFields {{
+    {&Ui::frmShipParticulars::txtOfficialNo, "OfficialNo", true, "Please enter the Official No."},
+    {&Ui::frmShipParticulars::txtSummerDraft, "SummerDraft", true, "Please enter the Summer Draft."},
+    {&Ui::frmShipParticulars::txtSummerDeadweight, "SummerDeadweight", true, "Please enter the Summer Dead Weight."},
+    {&Ui::frmShipParticulars::txtCallSign, "CallSign", false, "Please enter the Call Sign."},
+    {&Ui::frmShipParticulars::txtFlag, "Flag", false, "Please enter the Flag."},
+    {&Ui::frmShipParticulars::txtIMONo, "IMONo", true, "Please enter the IMO No."},
+    {&Ui::frmShipParticulars::txtGrossTonnage, "GrossTonnage", true, "Please enter the Gross Tonnage."},
+    {&Ui::frmShipParticulars::txtNetTonnage, "NetTonnage", true, "Please enter the Net Tonnage."},
+    {&Ui::frmShipParticulars::txtLBP, "LBP", true, "Please enter the LBP."},
+    {&Ui::frmShipParticulars::txtLOA, "LOA", true, "Please enter the LOA."},
+    {&Ui::frmShipParticulars::txtBreadth, "Breadth", true, "Please enter the Breadth."},
+    {&Ui::frmShipParticulars::txtFwdX, "FwdX", true, "Please enter the Fwd-X."},
+    {&Ui::frmShipParticulars::txtMidX, "MidX", true, "Please enter the Mid-X."},
+    {&Ui::frmShipParticulars::txtAftX, "AftX", true, "Please enter the Aft-X."},
+    {&Ui::frmShipParticulars::txtLightShip, "LightShip", true, "Please enter the Light Ship."},
+}};
+
 QLineEdit &frmShipParticulars::FieldOf(const NumberRule &rule) const
 {
     return *((*ui).*rule.field);
@@ -94,30 +112,11 @@ bool frmShipParticulars::ValidShip()
         return missing(ui->cmbShipName, "Please enter ship name.");
     if (ui->dcbPortOfRegistry->Text().isEmpty())
         return missing(ui->dcbPortOfRegistry, "Please choose the Port of Registry");
-    const struct {
-        QLineEdit *field;
-        const char *message;
-    } required[] = {
-        {ui->txtOfficialNo, "Please enter the Official No."},
-        {ui->txtSummerDraft, "Please enter the Summer Draft."},
-        {ui->txtSummerDeadweight, "Please enter the Summer Dead Weight."},
-        {ui->txtCallSign, "Please enter the Call Sign."},
-        {ui->txtFlag, "Please enter the Flag."},
-        {ui->txtIMONo, "Please enter the IMO No."},
-        {ui->txtGrossTonnage, "Please enter the Gross Tonnage."},
-        {ui->txtNetTonnage, "Please enter the Net Tonnage."},
-        {ui->txtLBP, "Please enter the LBP."},
-        {ui->txtLOA, "Please enter the LOA."},
-        {ui->txtBreadth, "Please enter the Breadth."},
-        {ui->txtFwdX, "Please enter the Fwd-X."},
-        {ui->txtMidX, "Please enter the Mid-X."},
-        {ui->txtAftX, "Please enter the Aft-X."},
-        {ui->txtLightShip, "Please enter the Light Ship."},
-    };
-    for (const auto &[field, message] : required) {
+    for (const TextField &required : kTextFields) {
+        QLineEdit *box = (*ui).*required.box;
         // Meant: a blank counts as an entry here.
-        if (field->text().isEmpty())
-            return missing(field, message);
+        if (box->text().isEmpty())
+            return missing(box, required.demand);
     }
     return true;
 }

@@ -30,37 +30,17 @@ MsgAnswer Ask(const char *question, MsgButtons buttons, MsgAnswer defaultAnswer 
 {
     return MsgBox({.text = question, .icon = MsgIcon::Question, .buttons = buttons, .defaultAnswer = defaultAnswer});
 }
-
-std::string TextOf(const QString &entered)
-{
-    return Quoted(entered.toStdString());
-}
-
-std::string NumberOf(const QLineEdit *field)
-{
-    return FieldSqlText(field->text().toStdString());
-}
 } // namespace
 
 std::vector<frmShipParticulars::ColumnValue> frmShipParticulars::EnteredValues() const
 {
-    return {{"ShipName", TextOf(ui->cmbShipName->Text())},
-            {"LBP", NumberOf(ui->txtLBP)},
-            {"LOA", NumberOf(ui->txtLOA)},
-            {"Breadth", NumberOf(ui->txtBreadth)},
-            {"FwdX", NumberOf(ui->txtFwdX)},
-            {"MidX", NumberOf(ui->txtMidX)},
-            {"AftX", NumberOf(ui->txtAftX)},
-            {"LightShip", NumberOf(ui->txtLightShip)},
-            {"CallSign", TextOf(ui->txtCallSign->text())},
-            {"PortOfRegistry", ui->dcbPortOfRegistry->BoundValue().SqlText()},
-            {"OfficialNo", NumberOf(ui->txtOfficialNo)},
-            {"IMONo", NumberOf(ui->txtIMONo)},
-            {"Flag", TextOf(ui->txtFlag->text())},
-            {"GrossTonnage", NumberOf(ui->txtGrossTonnage)},
-            {"NetTonnage", NumberOf(ui->txtNetTonnage)},
-            {"SummerDraft", NumberOf(ui->txtSummerDraft)},
-            {"SummerDeadweight", NumberOf(ui->txtSummerDeadweight)}};
+    std::vector<ColumnValue> values {{"ShipName", Quoted(ui->cmbShipName->Text().toStdString())},
+                                     {"PortOfRegistry", ui->dcbPortOfRegistry->BoundValue().SqlText()}};
+    for (const TextField &field : kTextFields) {
+        const std::string text = ((*ui).*field.box)->text().toStdString();
+        values.emplace_back(field.column, field.isNumber ? FieldSqlText(text) : Quoted(text));
+    }
+    return values;
 }
 
 std::string frmShipParticulars::InsertStatement() const

@@ -173,35 +173,17 @@ void DeductionGrid::Show(const clsDraft &draft, bool zeroFilled)
     txtGridTextbox->setText(fgrdDeduction.Cell(fgrdDeduction.CurrentRow(), kQuantityColumn));
 }
 
-bool DeductionGrid::Collect(clsDraft &draft)
+void DeductionGrid::Collect(clsDraft &draft)
 {
-    mRefused = false;
-    Validate(mRefused);
-    if (mRefused)
-        return false;
+    bool refused = false;
+    Validate(refused);
+    if (refused)
+        return;
     if (!mRsItems.IsOpen())
-        return true;
+        return;
     for (int row = 0; const Recordset::Row &item : mRsItems.EachRow()) {
         const QString quantity = fgrdDeduction.Cell(row++, kQuantityColumn);
         if (!mWithheld || !quantity.isEmpty())
             draft.Deduction(item.Fields("ItemID"), DecimalOrZero(quantity));
     }
-    return true;
-}
-
-QStringList DeductionGrid::Quantities() const
-{
-    QStringList quantities;
-    for (int row = 0; row < fgrdDeduction.rowCount(); ++row)
-        quantities.append(fgrdDeduction.Cell(row, kQuantityColumn));
-    return quantities;
-}
-
-void DeductionGrid::PutBack(const QStringList &quantities)
-{
-    if (!mRefused && !mWithheld)
-        return;
-    mWithheld = false;
-    for (int row = 0; const QString &quantity : quantities)
-        fgrdDeduction.SetCell(row++, kQuantityColumn, quantity);
 }

@@ -4,7 +4,6 @@
 #include "survey/NumberRule.h"
 
 #include <QObject>
-#include <QStringList>
 
 class FloatingEditor;
 class Grid;
@@ -28,13 +27,8 @@ public:
     void Withhold() { mWithheld = true; }
     /// A draft's quantities. zeroFilled: an item without one reads "0" beside others that have one.
     void Show(const clsDraft &draft, bool zeroFilled);
-    /// Takes the quantities into a draft. False where the editor's was refused, as a message has told: no cell was
-    /// read.
-    bool Collect(clsDraft &draft);
-    /// The quantities on show, by row.
-    [[nodiscard]] QStringList Quantities() const;
-    /// Shows them again where a refusal kept them from being taken, or a failure from being shown since.
-    void PutBack(const QStringList &quantities);
+    /// Takes the quantities into a draft; none where the editor's is refused, as a message tells.
+    void Collect(clsDraft &draft);
 
     /// The editor's check. A failure is told.
     void Validate(bool &cancel);
@@ -60,7 +54,6 @@ private:
     FloatingEditor *txtGridTextbox;
     Recordset mRsItems; ///< row r of the grid is row r here
     NumberRule mRule;
-    bool mRefused = false; ///< the last collection read no cell
     bool mRefusalBlanked = false; ///< the editor is blank from a refusal and not by the user
     bool mWithheld = false; ///< blank cells are not shown quantities, and no zeros
 };

@@ -29,6 +29,23 @@ QDate DateOf(const QString &text)
 
 constexpr const char *kMarkRange = "Please enter value  greater than 0 and less than 100.";
 
+/// A number field, what of the draft stands in it, and its name in the question for it.
+struct Entry {
+    QLineEdit *Ui::SurveyWindow::*field;
+    const Value &(clsDraft::*shown)() const;
+    void (clsDraft::*take)(const Value &);
+    const char *name;
+};
+constexpr std::array kEntries {
+    Entry {&Ui::SurveyWindow::txtDensity, &clsDraft::SpecificGravity, &clsDraft::SpecificGravity, "Density"},
+    Entry {&Ui::SurveyWindow::txtFwdPort, &clsDraft::FwdPort, &clsDraft::FwdPort, "Forward Port"},
+    Entry {&Ui::SurveyWindow::txtFwdStbd, &clsDraft::FwdStbd, &clsDraft::FwdStbd, "Forward Starboard"},
+    Entry {&Ui::SurveyWindow::txtMidShipPort, &clsDraft::MidPort, &clsDraft::MidPort, "Midship Port"},
+    Entry {&Ui::SurveyWindow::txtMidshipStbd, &clsDraft::MidStbd, &clsDraft::MidStbd, "Midship Starboard"},
+    Entry {&Ui::SurveyWindow::txtAftPort, &clsDraft::AftPort, &clsDraft::AftPort, "Aft Port"},
+    Entry {&Ui::SurveyWindow::txtAftStbd, &clsDraft::AftStbd, &clsDraft::AftStbd, "Aft Starboard"},
+};
+
 NumberRule MarkRule(const char *name, const char *range)
 {
     const std::string invalid = std::string("Invalid value for ").append(name).append(" draft.\n\n");
@@ -63,13 +80,8 @@ SurveyEntries::SurveyEntries(Form &form, const Ui::SurveyWindow &controls, const
 
 void SurveyEntries::Show(const clsDraft &draft) const
 {
-    ShowValue(*ui.txtDensity, BlankIfZero(draft.SpecificGravity()));
-    ShowValue(*ui.txtFwdPort, BlankIfZero(draft.FwdPort()));
-    ShowValue(*ui.txtFwdStbd, BlankIfZero(draft.FwdStbd()));
-    ShowValue(*ui.txtMidShipPort, BlankIfZero(draft.MidPort()));
-    ShowValue(*ui.txtMidshipStbd, BlankIfZero(draft.MidStbd()));
-    ShowValue(*ui.txtAftPort, BlankIfZero(draft.AftPort()));
-    ShowValue(*ui.txtAftStbd, BlankIfZero(draft.AftStbd()));
+    for (const Entry &entry : kEntries)
+        ShowValue(*(ui.*entry.field), BlankIfZero((draft.*entry.shown)()));
     ShowMoment(draft);
 }
 
@@ -81,29 +93,16 @@ void SurveyEntries::ShowMoment(const clsDraft &draft) const
 
 void SurveyEntries::Collect(clsDraft &draft) const
 {
-    draft.SpecificGravity(Entered(*ui.txtDensity));
+    for (const Entry &entry : kEntries)
+        (draft.*entry.take)(Entered(*(ui.*entry.field)));
     draft.DSDate(ui.mbxDate->Text().toStdString());
     draft.DSTime(ui.mbxTime->Text().toStdString());
-    draft.FwdPort(Entered(*ui.txtFwdPort));
-    draft.FwdStbd(Entered(*ui.txtFwdStbd));
-    draft.MidPort(Entered(*ui.txtMidShipPort));
-    draft.MidStbd(Entered(*ui.txtMidshipStbd));
-    draft.AftPort(Entered(*ui.txtAftPort));
-    draft.AftStbd(Entered(*ui.txtAftStbd));
 }
 
 bool SurveyEntries::AllFilled() const
 {
-    const std::pair<QLineEdit *, const char *> entries[] = {
-        {ui.txtDensity, "Density"},
-        {ui.txtFwdPort, "Forward Port"},
-        {ui.txtFwdStbd, "Forward Starboard"},
-        {ui.txtMidShipPort, "Midship Port"},
-        {ui.txtMidshipStbd, "Midship Starboard"},
-        {ui.txtAftPort, "Aft Port"},
-        {ui.txtAftStbd, "Aft Starboard"},
-    };
-    for (const auto &[field, name] : entries) {
+    for (const auto &[member, shown, take, name] : kEntries) {
+        QLineEdit *field = ui.*member;
         if (!IsBlank(field->text()))
             continue;
         TellExclamation(std::string("Incomplete data.\n\nPlease enter value for ").append(name).append("."));

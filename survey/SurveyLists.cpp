@@ -34,39 +34,37 @@ void SurveyLists::UseBaselines(QComboBox &list, std::function<void()> picked)
     QObject::connect(&list, &QComboBox::activated, &list, [this] { PickBaseline(); });
 }
 
-void SurveyLists::InitShipDataCombo()
+void SurveyLists::Fill(DataCombo &list, Recordset &rows, const std::string &sql, const char *shown, const char *bound,
+                       const char *source)
 try {
-    mRsShip.Reopen("SELECT * FROM Ship ORDER BY ShipName", CursorType::Dynamic, LockType::BatchOptimistic);
-    ui.dcbShip->SetRows(mRsShip, "ShipName", "ShipID");
+    rows.Reopen(sql, CursorType::Dynamic, LockType::BatchOptimistic);
+    list.SetRows(rows, shown, bound);
 } catch (const RuntimeError &error) {
-    TellSource(error, "InitShipDataCombo");
+    TellSource(error, source);
+}
+
+void SurveyLists::InitShipDataCombo()
+{
+    Fill(*ui.dcbShip, mRsShip, "SELECT * FROM Ship ORDER BY ShipName", "ShipName", "ShipID", "InitShipDataCombo");
 }
 
 void SurveyLists::InitVoyageIDDataCombo()
-try {
-    mRsVoyage.Reopen("SELECT DISTINCT VoyageID FROM DraftParticulars WHERE isLoading = "
-                         + std::string(mSurvey.Direction().isLoading) + " ORDER BY VoyageID",
-                     CursorType::Dynamic, LockType::BatchOptimistic);
-    ui.dcbVoyageID->SetRows(mRsVoyage, "VoyageID");
-} catch (const RuntimeError &error) {
-    TellSource(error, "InitVoyageIDDataCombo");
+{
+    Fill(*ui.dcbVoyageID, mRsVoyage,
+         "SELECT DISTINCT VoyageID FROM DraftParticulars WHERE isLoading = "
+             + std::string(mSurvey.Direction().isLoading) + " ORDER BY VoyageID",
+         "VoyageID", "", "InitVoyageIDDataCombo");
 }
 
 void SurveyLists::InitPortDataCombo()
-try {
-    mRsPort.Reopen("SELECT * FROM Port ORDER BY PortName", CursorType::Dynamic, LockType::BatchOptimistic);
-    ui.dcbPort->SetRows(mRsPort, "PortName", "PortID");
-} catch (const RuntimeError &error) {
-    TellSource(error, "InitPortDataCombo");
+{
+    Fill(*ui.dcbPort, mRsPort, "SELECT * FROM Port ORDER BY PortName", "PortName", "PortID", "InitPortDataCombo");
 }
 
 void SurveyLists::InitDateDataCombo()
-try {
-    mRsDate.Reopen("SELECT DISTINCT " + std::string(kDate) + " AS DSDate" + DailyDraftsOf(mSurvey), CursorType::Static,
-                   LockType::ReadOnly);
-    ui.dcbDate->SetRows(mRsDate, "DSDate");
-} catch (const RuntimeError &error) {
-    TellSource(error, "InitDateDataCombo");
+{
+    Fill(*ui.dcbDate, mRsDate, "SELECT DISTINCT " + std::string(kDate) + " AS DSDate" + DailyDraftsOf(mSurvey),
+         "DSDate", "", "InitDateDataCombo");
 }
 
 void SurveyLists::FillTimes(const QString &date)

@@ -6,6 +6,7 @@
 #include <functional>
 #include <string>
 
+class DataCombo;
 class QComboBox;
 class QString;
 
@@ -48,6 +49,8 @@ public:
     [[nodiscard]] std::string PortText(const Value &portID);
 
 private:
+    static void Fill(DataCombo &list, Recordset &rows, const std::string &sql, const char *shown, const char *bound,
+                     const char *source);
     void FillTimes(const QString &date);
     void PickBaseline();
 

@@ -94,6 +94,8 @@ private:
     [[nodiscard]] bool ValidCalcInput();
     void LoadDraft(const Stage &stage);
     void ShowDraft(const Stage &stage);
+    /// What a calculation gives. False where the draft's deductions are not to be shown afterwards.
+    [[nodiscard]] bool ShowResults(const clsDraft &draft);
     void InitializeAllGrids(bool rebuild);
 
     // Lookup
@@ -110,10 +112,11 @@ private:
 
     /// Run-time errors for a ship or port that cannot be read.
     [[nodiscard]] ReportedHeader ReportHeader();
+    void FillReport(const ReportedHeader &header);
 
     // Saving
     [[nodiscard]] bool ValidDrafts();
-    /// Survey::WorkOutDrafts, and the draft in front as it is then.
+    /// Survey::WorkOutDrafts, and the results in front as they are then.
     void WorkOutDrafts();
     void ShowSavedStage();
     void NewDailyDraft();

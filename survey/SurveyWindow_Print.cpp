@@ -30,6 +30,15 @@ ReportedHeader SurveyWindow::ReportHeader()
     return reported;
 }
 
+void SurveyWindow::FillReport(const ReportedHeader &header)
+try {
+    mKind.fillReport(mKind.report(), mSurvey, header);
+} catch (const RuntimeError &) {
+    // A page that is half filled is no report.
+    HideReport(mKind.report());
+    throw;
+}
+
 void SurveyWindow::RPrint(bool blnShowPreview)
 try {
     if (!Calculate())
@@ -39,7 +48,7 @@ try {
         TellExclamation(blnShowPreview ? "No valid draft for preview." : "No valid draft for printing.");
         return;
     }
-    mKind.fillReport(mKind.report(), mSurvey, ReportHeader());
+    FillReport(ReportHeader());
     if (blnShowPreview) {
         ShowReport(mKind.report(), window());
         return;
@@ -47,7 +56,5 @@ try {
     HideReport(mKind.report());
     PrintReport(mKind.report());
 } catch (const RuntimeError &) {
-    // A page that is half filled is no report.
-    HideReport(mKind.report());
     MsgBox(kPrintFailure, MsgIcon::Critical, mKind.printFailureCaption);
 }

@@ -62,16 +62,19 @@ void SurveyWindow::ShowDraft(const Stage &stage)
         SetListCorrection(stage, draft.ListCorrected());
     }
     ui->txtComments->setPlainText(QString::fromStdString(draft.Comments()));
+    if (ShowResults(draft))
+        mDeductions.Show(mSurvey.Draft(ActiveStage()), mKind.zeroFillsQuantities);
+}
+
+// By the tab in front, whatever the draft: a list correction box of another stage may have been left there.
+bool SurveyWindow::ShowResults(const clsDraft &draft)
+{
     mResults.ShowDrafts(draft);
-    // From here on it goes by the tab in front: a list correction box of another stage may have been left there.
-    const Stage &front = ActiveStage();
-    if (mResults.IsCalculated()) {
-        mResults.ShowFigures(draft, ListCorrectionOf(front).isChecked());
-        mResults.ShowCaptions(mKind.captions[static_cast<std::size_t>(mTab)]);
-        if (!mPanel->Show(front, draft))
-            return;
-    }
-    mDeductions.Show(mSurvey.Draft(front), mKind.zeroFillsQuantities);
+    if (!mResults.IsCalculated())
+        return true;
+    mResults.ShowFigures(draft, ListCorrectionOf(ActiveStage()).isChecked());
+    mResults.ShowCaptions(mKind.captions[static_cast<std::size_t>(mTab)]);
+    return mPanel->Show(ActiveStage(), draft);
 }
 
 void SurveyWindow::InitializeAllGrids(bool rebuild)

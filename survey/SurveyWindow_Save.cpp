@@ -56,11 +56,9 @@ bool SurveyWindow::ValidDraft()
 void SurveyWindow::WorkOutDrafts()
 try {
     const UnsaidMessages quiet;
-    if (!mSurvey.WorkOutDrafts(ActiveStage()))
-        return;
-    const QStringList typed = mDeductions.Quantities();
-    LoadDraft(ActiveStage());
-    mDeductions.PutBack(typed);
+    // What a failed run has blanked stays blank, and what was entered stands as it was typed.
+    if (mSurvey.WorkOutDrafts(ActiveStage()) && mResults.HasNetDisplacement())
+        static_cast<void>(ShowResults(mSurvey.Draft(ActiveStage())));
 } catch (const RuntimeError &) {
     // The save goes on by the drafts, whatever the screen can show of them.
 }

@@ -13,6 +13,9 @@
 #include <QPointer>
 #include <QTabBar>
 
+#include <algorithm>
+#include <array>
+
 namespace
 {
 // A list that drops down from a form is another window and no part of it.
@@ -145,33 +148,18 @@ void KeepFocusFromWheel(QWidget *widget)
     }
 }
 
+constexpr std::array kInput {QEvent::KeyPress, QEvent::MouseButtonPress, QEvent::MouseButtonDblClick,
+                             QEvent::TouchBegin, QEvent::Shortcut};
+
 bool TakenFromWidget(QWidget *widget, QEvent *event)
 {
     switch (event->type()) {
     case QEvent::KeyPress:
         return KeyTaken(widget, *static_cast<QKeyEvent *>(event));
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonDblClick:
-    case QEvent::TouchBegin:
-        return PressTaken(widget, *static_cast<QPointerEvent *>(event));
     case QEvent::Shortcut:
         return MnemonicTaken(widget, *static_cast<QShortcutEvent *>(event));
     default:
-        return false;
-    }
-}
-
-bool IsInput(const QEvent *event)
-{
-    switch (event->type()) {
-    case QEvent::KeyPress:
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonDblClick:
-    case QEvent::TouchBegin:
-    case QEvent::Shortcut:
-        return true;
-    default:
-        return false;
+        return PressTaken(widget, *static_cast<QPointerEvent *>(event));
     }
 }
 
@@ -180,7 +168,7 @@ bool Intercepted(QObject *receiver, QEvent *event)
 {
     if (event->type() == QEvent::Wheel && receiver->isWidgetType())
         KeepFocusFromWheel(static_cast<QWidget *>(receiver));
-    if (!IsInput(event))
+    if (std::ranges::find(kInput, event->type()) == kInput.end())
         return false;
     if (!receiver->isWidgetType()) {
         Form::DeliverTabs();

@@ -62,11 +62,18 @@ TEST_F(DeductionsGrid, ARefusalAtASaveLeavesTheOtherQuantitiesAsTyped)
     StoreSurvey();
     Open();
     FillCell(0, "400");
-    FillCell(1, "x");
+    Press(Qt::Key_Return);
+    FillCell(0, "x");
     Tell(kNoNumber);
     SaveWell();
     EXPECT_EQ(StoredDeductions(), "1:2=350 1:3=120.5");
     EXPECT_EQ(Quantity(0) + " " + Quantity(1), "400 120.5");
+    Fill("txtComments", "Heavy");
+    SaveWell();
+    EXPECT_EQ(StoredDeductions(), "1:2=400 1:3=120.5");
+    // What is typed after a save goes on where it was typed.
+    Type(Frame(), " swell");
+    EXPECT_EQ(Text("txtComments"), "Heavy swell");
 }
 
 TEST_F(DeductionsGrid, TheArrowsMoveBetweenFirstAndLastRow)

@@ -226,6 +226,7 @@ TEST_F(Save, AShipIsChangedInTheHeaderAndInTheDraftsThatWereTouched)
     Pick("dcbShip", 0);
     Fill("txtComments", "The first ship again");
     ClickTab("Daily");
+    Calculate();
     SaveWell();
     EXPECT_EQ(Ask("SELECT Constant FROM DraftParticulars").Text(), "241.68513");
 }
