@@ -17,7 +17,7 @@ if(KEELMARK_FUZZ)
 endif()
 
 # keelmark_room(NAME SOURCES ... KNOWS ...): one room of the house as a static library. KNOWS names the rooms and
-# libraries it may include.
+# libraries it may include; what those know, it knows too.
 function(keelmark_room name)
     cmake_parse_arguments(ROOM "" "" "SOURCES;KNOWS" ${ARGN})
     add_library(${name} STATIC ${ROOM_SOURCES})
