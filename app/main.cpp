@@ -16,12 +16,12 @@ namespace
 /// The windows that the menus open. An item whose window is not here stays off.
 void FillChildWindows()
 {
-    SetChildFactory(ChildWindow::HydrostaticData, [] { return new frmHDT; });
-    SetChildFactory(ChildWindow::ShipParticulars, [] { return new frmShipParticulars; });
-    SetChildFactory(ChildWindow::DeductionMaster, [] { return new frmDeductionMaster; });
-    SetChildFactory(ChildWindow::Port, [] { return new frmPortMaster; });
-    SetChildFactory(ChildWindow::Loading, [] { return new frmDraftSurvey; });
-    SetChildFactory(ChildWindow::Discharging, [] { return new frmDSDispatch; });
+    ChildFactoryPort(ChildWindow::HydrostaticData).Set([] { return new frmHDT; });
+    ChildFactoryPort(ChildWindow::ShipParticulars).Set([] { return new frmShipParticulars; });
+    ChildFactoryPort(ChildWindow::DeductionMaster).Set([] { return new frmDeductionMaster; });
+    ChildFactoryPort(ChildWindow::Port).Set([] { return new frmPortMaster; });
+    ChildFactoryPort(ChildWindow::Loading).Set([] { return new frmDraftSurvey; });
+    ChildFactoryPort(ChildWindow::Discharging).Set([] { return new frmDSDispatch; });
 }
 } // namespace
 
@@ -31,7 +31,7 @@ int main(int argc, char **argv)
     QApplication::setDesktopFileName("keelmark");
     QApplication::setWindowIcon(Picture("Keelmark"));
     TakeRegionalSettings();
-    UseMessageBoxWindows();
+    MsgBoxPort().Set(ShowMessageBoxWindow);
     FillChildWindows();
     if (!Main())
         return EXIT_FAILURE;

@@ -27,7 +27,6 @@ class OpenEditor
 public:
     OpenEditor()
     {
-        SetChildFactory(ChildWindow::HydrostaticData, [] { return new frmHDT; });
         ShowMainWindow();
         PaintAll();
         const auto start = Clock::now();
@@ -41,8 +40,6 @@ public:
             form->Unload();
         PaintAll();
     }
-    OpenEditor(const OpenEditor &) = delete;
-    OpenEditor &operator=(const OpenEditor &) = delete;
 
     [[nodiscard]] double Opened() const { return mOpened; }
     [[nodiscard]] static frmHDT &Window() { return static_cast<frmHDT &>(Child(ChildWindow::HydrostaticData)); }
@@ -58,6 +55,7 @@ public:
 
 private:
     double mOpened = 0.0;
+    ScopedPort<ChildFactory> mFactory {ChildFactoryPort(ChildWindow::HydrostaticData), [] { return new frmHDT; }};
 };
 
 /// Rows read as texts, which is what the editor keeps of them.
@@ -109,14 +107,13 @@ void SaveTable(benchmark::State &state)
         OpenEditor::TypeRow(++number);
         const auto start = Clock::now();
         double seconds = 0.0;
-        const MsgBoxPort before = SetMsgBoxPort([&](const Message &message) {
+        const ScopedPort box(MsgBoxPort(), [&](const Message &message) {
             if (message.icon != MsgIcon::Information)
                 BenchFailure(message.text);
             seconds = SecondsSince(start);
             return MsgAnswer::Ok;
         });
         OpenEditor::Window().RSave();
-        SetMsgBoxPort(before);
         state.SetIterationTime(seconds);
     }
 }

@@ -24,19 +24,18 @@ void FillPort(const BenchStore &store)
 
 void DeleteInKeelmark(benchmark::State &state)
 {
-    SetChildFactory(ChildWindow::Port, [] { return new frmPortMaster; });
+    const ScopedPort factory(ChildFactoryPort(ChildWindow::Port), [] { return new frmPortMaster; });
+    const ScopedPort boxes(MsgBoxPort(), [](const Message &message) {
+        return message.buttons == MsgButtons::YesNo ? MsgAnswer::Yes : MsgAnswer::Ok;
+    });
     for (auto unused : state) {
         const BenchStore store;
         FillPort(store);
         ShowMainWindow();
         OpenChild(ChildWindow::Port);
-        const MsgBoxPort before = SetMsgBoxPort([](const Message &message) {
-            return message.buttons == MsgButtons::YesNo ? MsgAnswer::Yes : MsgAnswer::Ok;
-        });
         const auto start = Clock::now();
         Child(ChildWindow::Port).RDelete();
         state.SetIterationTime(SecondsSince(start));
-        SetMsgBoxPort(before);
         Child(ChildWindow::Port).Unload();
         QCoreApplication::processEvents();
     }

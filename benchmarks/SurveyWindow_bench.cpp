@@ -21,7 +21,6 @@ class OpenWindow
 public:
     OpenWindow()
     {
-        SetChildFactory(ChildWindow::Loading, [] { return new frmDraftSurvey; });
         ShowMainWindow();
         OpenChild(ChildWindow::Loading);
         PaintAll();
@@ -32,8 +31,6 @@ public:
             form->Unload();
         PaintAll();
     }
-    OpenWindow(const OpenWindow &) = delete;
-    OpenWindow &operator=(const OpenWindow &) = delete;
 
     [[nodiscard]] static Form &Window() { return Child(ChildWindow::Loading); }
     template<class Control> [[nodiscard]] static Control &Find(const char *name)
@@ -43,6 +40,9 @@ public:
             BenchFailure(name);
         return *control;
     }
+
+private:
+    ScopedPort<ChildFactory> mFactory {ChildFactoryPort(ChildWindow::Loading), [] { return new frmDraftSurvey; }};
 };
 
 void AddDraft(const BenchStore &store, int draftID, int recordID)
@@ -97,14 +97,13 @@ void PressSave(benchmark::State &state)
         PaintAll();
         const auto start = Clock::now();
         double seconds = 0.0;
-        const MsgBoxPort before = SetMsgBoxPort([&](const Message &message) {
+        const ScopedPort box(MsgBoxPort(), [&](const Message &message) {
             if (message.text != "Record/s updated successfully.")
                 BenchFailure(message.text);
             seconds = SecondsSince(start);
             return MsgAnswer::Ok;
         });
         OpenWindow::Window().RSave();
-        SetMsgBoxPort(before);
         state.SetIterationTime(seconds);
     }
 }

@@ -2,10 +2,9 @@
 #include "benchmarks/RatioTable.h"
 #include "core/MsgBox.h"
 #include "frame/platform/Application.h"
-#include "frame/platform/Settings.h"
 #include "tests/support/OffscreenMessages.h"
+#include "tests/support/TestSettings.h"
 
-#include <QSettings>
 #include <QTemporaryDir>
 
 #include <string>
@@ -32,8 +31,8 @@ int main(int argc, char **argv)
     qputenv("QT_QPA_PLATFORM", "offscreen");
     DropOffscreenMessages();
     const Application application(argc, argv);
-    SetSettingsPort(std::make_unique<QSettings>(home.filePath(QStringLiteral("settings.ini")), QSettings::IniFormat));
-    SetMsgBoxPort(AnswerBox);
+    const TestSettings settings(home.filePath(QStringLiteral("settings.ini")).toStdString());
+    const ScopedPort boxes(MsgBoxPort(), AnswerBox);
 
     // Repetitions of both sides are mixed, so that a slow moment of the machine meets both alike.
     std::vector<std::string> arguments {argv[0], "--benchmark_repetitions=7", "--benchmark_min_time=0.1",

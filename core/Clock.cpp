@@ -1,16 +1,9 @@
 #include "core/Clock.h"
 
 #include <ctime>
-#include <utility>
 
 namespace
 {
-std::function<ClockTime()> &Source()
-{
-    static std::function<ClockTime()> source;
-    return source;
-}
-
 ClockTime MachineTime()
 {
     const std::time_t now = std::time(nullptr);
@@ -21,10 +14,11 @@ ClockTime MachineTime()
 
 ClockTime Now()
 {
-    return Source() ? Source()() : MachineTime();
+    return (*ClockPort())();
 }
 
-void SetClock(std::function<ClockTime()> clock)
+Port<ClockSource> &ClockPort()
 {
-    Source() = std::move(clock);
+    static Port<ClockSource> port(MachineTime);
+    return port;
 }

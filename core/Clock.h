@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/numeric/Port.h"
+
 #include <functional>
 
 /// Local date and time of the machine, as a calendar shows it.
@@ -12,8 +14,8 @@ struct ClockTime {
     int second = 0;
 };
 
-/// The present local time, from the machine's clock unless another source is set.
+/// The present local time, from the machine's clock unless another source is in place.
 [[nodiscard]] ClockTime Now();
 
-/// Another source of the time; an empty function brings the machine's clock back.
-void SetClock(std::function<ClockTime()> clock);
+using ClockSource = std::function<ClockTime()>;
+[[nodiscard]] Port<ClockSource> &ClockPort();

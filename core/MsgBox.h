@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/numeric/Port.h"
+
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -35,23 +37,22 @@ inline void TellExclamation(std::string_view text, std::string_view caption = kP
     MsgBox(text, MsgIcon::Exclamation, caption);
 }
 
-/// What shows the boxes: the program sets a window, a test a script. Without one, MsgBox throws std::logic_error.
-/// The port that was set before is handed back.
-using MsgBoxPort = std::function<MsgAnswer(const Message &)>;
-MsgBoxPort SetMsgBoxPort(MsgBoxPort port);
+/// What shows the boxes: the program puts a window in place, a test a script. Without one, MsgBox throws
+/// std::logic_error.
+using MsgBoxSource = std::function<MsgAnswer(const Message &)>;
+[[nodiscard]] Port<MsgBoxSource> &MsgBoxPort();
 
 /// While one lives, no box is shown: each is answered by its default and only counts.
 class UnsaidMessages
 {
 public:
-    UnsaidMessages();
-    ~UnsaidMessages();
-    UnsaidMessages(const UnsaidMessages &) = delete;
-    UnsaidMessages &operator=(const UnsaidMessages &) = delete;
-
     [[nodiscard]] bool Any() const noexcept { return mAny; }
 
 private:
-    bool mAny = false;
-    MsgBoxPort mShown;
+    // Counted in const ones too.
+    mutable bool mAny = false;
+    ScopedPort<MsgBoxSource> mUnsaid {MsgBoxPort(), [this](const Message &message) {
+                                          mAny = true;
+                                          return message.defaultAnswer;
+                                      }};
 };

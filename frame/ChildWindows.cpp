@@ -10,7 +10,7 @@
 namespace
 {
 struct Entry {
-    ChildFactory factory;
+    Port<ChildFactory> factory;
     QPointer<Form> form;
 };
 
@@ -21,14 +21,14 @@ Entry &EntryOf(ChildWindow window)
 }
 } // namespace
 
-void SetChildFactory(ChildWindow window, ChildFactory factory)
+Port<ChildFactory> &ChildFactoryPort(ChildWindow window)
 {
-    EntryOf(window).factory = std::move(factory);
+    return EntryOf(window).factory;
 }
 
 bool HasChildFactory(ChildWindow window)
 {
-    return static_cast<bool>(EntryOf(window).factory);
+    return static_cast<bool>(*ChildFactoryPort(window));
 }
 
 Form &Child(ChildWindow window)
@@ -36,9 +36,9 @@ Form &Child(ChildWindow window)
     if (Form *form = LoadedChild(window))
         return *form;
     Entry &entry = EntryOf(window);
-    if (!entry.factory)
+    if (!HasChildFactory(window))
         throw RuntimeError(ErrorNumber::NoObject);
-    entry.form = entry.factory();
+    entry.form = (*entry.factory)();
     return *entry.form;
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/numeric/Port.h"
+
 #include <cstdint>
 #include <functional>
 
@@ -9,10 +11,11 @@ class Form;
 /// made, and an item whose window nobody makes stays off.
 enum class ChildWindow : std::uint8_t { ShipParticulars, HydrostaticData, DeductionMaster, Port, Loading, Discharging };
 
+/// An empty function makes none.
 using ChildFactory = std::function<Form *()>;
 
-/// To be filled before the main window is made; an empty function takes a window out of the table.
-void SetChildFactory(ChildWindow window, ChildFactory factory);
+/// To be filled before the main window is made.
+[[nodiscard]] Port<ChildFactory> &ChildFactoryPort(ChildWindow window);
 [[nodiscard]] bool HasChildFactory(ChildWindow window);
 
 /// The one live window of its kind, made on first use. Once unloaded it is gone, and the next use makes a new one.

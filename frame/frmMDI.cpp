@@ -62,7 +62,6 @@ frmMDI::frmMDI()
     setAccessibleName(tr("Keelmark"));
     setAttribute(Qt::WA_DeleteOnClose);
     Forms::Add(this);
-    Form::SetFrame(this);
 
     auto *middle = new QWidget;
     auto *layout = new QVBoxLayout(middle);
@@ -95,7 +94,6 @@ frmMDI::~frmMDI()
 {
     // Children that are still there go after this.
     mArea->disconnect(this);
-    Form::SetFrame(nullptr);
     Forms::Remove(this);
 }
 

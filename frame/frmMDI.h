@@ -91,4 +91,5 @@ private:
     /// The child that was told last that it is the active one.
     QPointer<Form> mActiveForm;
     std::int16_t mChildCount = 0;
+    ScopedPort<FrameLink *> mFramePort {FramePort(), this};
 };

@@ -32,16 +32,8 @@ namespace
 {
 constexpr std::array kZooms {0.25, 0.5, 0.75, 1.0, 1.25, 1.5, 2.0, 3.0, 4.0};
 
-SavePathPort &PathPort()
-{
-    static SavePathPort port;
-    return port;
-}
-
 QString AskForPath(QWidget *parent, const QString &proposed)
 {
-    if (PathPort())
-        return PathPort()(parent, proposed);
     QFileDialog dialog(parent, QObject::tr("Save as PDF"), proposed, QObject::tr("PDF (*.pdf)"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(QStringLiteral("pdf"));
@@ -222,7 +214,7 @@ void ReportPreview::SaveAsPdf()
     QDir documents(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
     if (!documents.exists())
         documents = QDir::home();
-    const QString path = AskForPath(this, documents.filePath(PdfName(mReport)));
+    const QString path = (*SavePathPort())(this, documents.filePath(PdfName(mReport)));
     if (path.isEmpty())
         return;
     const std::string shown = QDir::toNativeSeparators(path).toStdString();
@@ -284,7 +276,8 @@ void HideReport(const Report &report)
         preview->second->hide();
 }
 
-SavePathPort SetSavePathPort(SavePathPort port)
+Port<SavePathSource> &SavePathPort()
 {
-    return std::exchange(PathPort(), std::move(port));
+    static Port<SavePathSource> port(AskForPath);
+    return port;
 }

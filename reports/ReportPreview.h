@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/numeric/Port.h"
+
 #include <QWidget>
 
 #include <functional>
@@ -61,7 +63,7 @@ void ShowReport(Report &report, QWidget *before);
 /// Takes an open preview of the report from the screen. The report stays as it is filled.
 void HideReport(const Report &report);
 
-/// Asks for the file to save to, starting from a proposed path; empty where the user thinks better of it. A test sets
-/// its own; an empty one is the machine's dialog, and the port that was set before is handed back.
-using SavePathPort = std::function<QString(QWidget *parent, const QString &proposed)>;
-SavePathPort SetSavePathPort(SavePathPort port);
+/// Asks for the file to save to, starting from a proposed path: the machine's dialog unless another is set. Empty where
+/// the user thinks better of it.
+using SavePathSource = std::function<QString(QWidget *parent, const QString &proposed)>;
+[[nodiscard]] Port<SavePathSource> &SavePathPort();

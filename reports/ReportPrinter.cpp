@@ -8,8 +8,6 @@
 #include <QPrinter>
 #include <QPrinterInfo>
 
-#include <utility>
-
 namespace
 {
 void PrintOnDefaultPrinter(const Report &report)
@@ -19,12 +17,6 @@ void PrintOnDefaultPrinter(const Report &report)
         throw RuntimeError(ErrorNumber::PrinterError);
     QPrinter printer(machine, QPrinter::HighResolution);
     PrintReportOn(printer, report);
-}
-
-PrintPort &Port()
-{
-    static PrintPort port;
-    return port;
 }
 } // namespace
 
@@ -46,13 +38,11 @@ void PrintReportOn(QPrinter &printer, const Report &report)
 
 void PrintReport(const Report &report)
 {
-    if (Port())
-        Port()(report);
-    else
-        PrintOnDefaultPrinter(report);
+    (*PrintPort())(report);
 }
 
-PrintPort SetPrintPort(PrintPort port)
+Port<PrintSource> &PrintPort()
 {
-    return std::exchange(Port(), std::move(port));
+    static Port<PrintSource> port(PrintOnDefaultPrinter);
+    return port;
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/numeric/Port.h"
+
 #include <functional>
 
 class QPrinter;
@@ -13,7 +15,6 @@ void PrintReport(const Report &report);
 /// the page.
 void PrintReportOn(QPrinter &printer, const Report &report);
 
-/// What prints; a test sets its own. An empty one is the machine's printer, and the port that was set before is handed
-/// back.
-using PrintPort = std::function<void(const Report &)>;
-PrintPort SetPrintPort(PrintPort port);
+/// What prints: the default printer unless another is set.
+using PrintSource = std::function<void(const Report &)>;
+[[nodiscard]] Port<PrintSource> &PrintPort();

@@ -1,22 +1,12 @@
 #include "core/numeric/Regional.h"
 
-#include <utility>
-
-namespace
-{
-RegionalSettings &Current()
-{
-    static RegionalSettings settings;
-    return settings;
-}
-} // namespace
-
 const RegionalSettings &Regional()
 {
-    return Current();
+    return *RegionalPort();
 }
 
-void SetRegional(RegionalSettings settings)
+Port<RegionalSettings> &RegionalPort()
 {
-    Current() = std::move(settings);
+    static Port<RegionalSettings> port;
+    return port;
 }

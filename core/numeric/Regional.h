@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/numeric/Port.h"
+
 #include <string>
 
 /// How the machine writes numbers. All texts are UTF-8.
@@ -9,6 +11,6 @@ struct RegionalSettings {
     std::string currencySymbol = "$";
 };
 
-/// The settings in force for the whole program; a point as decimal separator until SetRegional is called.
+/// The settings in force for the whole program; a point as decimal separator until others are set.
 [[nodiscard]] const RegionalSettings &Regional();
-void SetRegional(RegionalSettings settings);
+[[nodiscard]] Port<RegionalSettings> &RegionalPort();

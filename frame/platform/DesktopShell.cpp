@@ -174,22 +174,15 @@ public:
 #endif
     }
 };
-
-std::unique_ptr<Shell> &Port()
-{
-    static std::unique_ptr<Shell> shell;
-    return shell;
-}
 } // namespace
 
 Shell &DesktopShell()
 {
-    if (!Port())
-        Port() = std::make_unique<Desktop>();
-    return *Port();
+    return **ShellPort();
 }
 
-void SetShellPort(std::unique_ptr<Shell> shell)
+Port<ShellSource> &ShellPort()
 {
-    Port() = std::move(shell);
+    static Port<ShellSource> port(std::make_unique<Desktop>());
+    return port;
 }

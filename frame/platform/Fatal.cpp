@@ -8,12 +8,6 @@
 
 namespace
 {
-FatalPort &Port()
-{
-    static FatalPort port;
-    return port;
-}
-
 // Numbers that do not fit 16 bits are known by their hexadecimal form.
 std::string NumberText(std::int32_t number)
 {
@@ -34,8 +28,9 @@ void AbandonTransaction()
         // The end of the process abandons it too.
     }
 }
+} // namespace
 
-[[noreturn]] void EndProgram(const RuntimeError &error)
+void EndProgram(const RuntimeError &error)
 {
     // The box lets other events run, and they may fail as well.
     static bool ending = false;
@@ -48,16 +43,14 @@ void AbandonTransaction()
     }
     std::_Exit(EXIT_FAILURE);
 }
-} // namespace
 
 void Fatal(const RuntimeError &error)
 {
-    if (!Port())
-        EndProgram(error);
-    Port()(error);
+    (*FatalPort())(error);
 }
 
-void SetFatalPort(FatalPort port)
+Port<FatalSource> &FatalPort()
 {
-    Port() = std::move(port);
+    static Port<FatalSource> port(EndProgram);
+    return port;
 }

@@ -8,8 +8,6 @@
 
 namespace
 {
-FrameLink *gFrame = nullptr;
-
 QEvent::Type TabEvent()
 {
     static const auto type = static_cast<QEvent::Type>(QEvent::registerEventType());
@@ -22,6 +20,12 @@ void PressTab(QWidget *focused)
     QApplication::sendEvent(focused, &press);
 }
 } // namespace
+
+Port<FrameLink *> &FramePort()
+{
+    static Port<FrameLink *> port;
+    return port;
+}
 
 Form::Form(QWidget *parent)
     : QWidget(parent)
@@ -123,11 +127,6 @@ Form *Form::Of(QObject *object)
     return nullptr;
 }
 
-void Form::SetFrame(FrameLink *frame)
-{
-    gFrame = frame;
-}
-
 void Form::SendMask(std::string_view mask)
 {
     mButtonMask = mask;
@@ -136,12 +135,12 @@ void Form::SendMask(std::string_view mask)
 
 void Form::SendMaskOnce(std::string_view mask)
 {
-    if (gFrame)
-        gFrame->SetMDIToolbar(mask);
+    if (FrameLink *frame = *FramePort())
+        frame->SetMDIToolbar(mask);
 }
 
 void Form::SetHint(const QString &text)
 {
-    if (gFrame)
-        gFrame->SetHint(text);
+    if (FrameLink *frame = *FramePort())
+        frame->SetHint(text);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/numeric/Port.h"
 #include "core/numeric/RuntimeError.h"
 
 #include <QHash>
@@ -21,6 +22,9 @@ public:
     /// Writes the message panel of the status bar.
     virtual void SetHint(const QString &text) = 0;
 };
+
+/// The main window, as far as a child knows it; null where there is none (SendMask and SetHint then do nothing).
+[[nodiscard]] Port<FrameLink *> &FramePort();
 
 /// The loaded windows of the program, in the order in which they were loaded, the main window among them.
 class Forms
@@ -86,9 +90,6 @@ public:
 
     /// The form that a widget belongs to: its nearest Form ancestor, itself included; null where there is none.
     [[nodiscard]] static Form *Of(QObject *object);
-
-    /// The main window, as far as a child knows it; null before it is made (SendMask and SetHint then do nothing).
-    static void SetFrame(FrameLink *frame);
 
 protected:
     /// Stores the mask and sends it to the main window.

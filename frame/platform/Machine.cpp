@@ -22,12 +22,6 @@ std::mt19937 &Generator()
     return generator;
 }
 
-std::function<double()> &RandomPort()
-{
-    static std::function<double()> source;
-    return source;
-}
-
 #ifdef Q_OS_LINUX
 // Whether the light of any keyboard is on. The lights stand for the keys only where a user sits at this machine.
 std::optional<bool> Light(const QString &name)
@@ -60,8 +54,7 @@ LockKeys ReadLockKeys()
 
 double RandomNumber()
 {
-    constexpr double range = 4294967296.0; // of the generator's 32 bits
-    return RandomPort() ? RandomPort()() : static_cast<double>(Generator()()) / range;
+    return (*RandomPort())();
 }
 
 void SeedRandom()
@@ -70,15 +63,19 @@ void SeedRandom()
     Generator().seed(static_cast<std::mt19937::result_type>(ticks));
 }
 
-void SetRandomPort(std::function<double()> source)
+Port<RandomSource> &RandomPort()
 {
-    RandomPort() = std::move(source);
+    static Port<RandomSource> port([] {
+        constexpr double range = 4294967296.0; // of the generator's 32 bits
+        return static_cast<double>(Generator()()) / range;
+    });
+    return port;
 }
 
 void TakeRegionalSettings()
 {
     const QLocale machine = QLocale::system();
-    SetRegional({.decimalSeparator = machine.decimalPoint().toStdString(),
-                 .groupSeparator = machine.groupSeparator().toStdString(),
-                 .currencySymbol = machine.currencySymbol().toStdString()});
+    RegionalPort().Set({.decimalSeparator = machine.decimalPoint().toStdString(),
+                        .groupSeparator = machine.groupSeparator().toStdString(),
+                        .currencySymbol = machine.currencySymbol().toStdString()});
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/MsgBox.h"
+
 #include <functional>
 #include <optional>
 
@@ -12,13 +14,13 @@ struct LockKeys {
 
 /// The next random number in [0, 1).
 [[nodiscard]] double RandomNumber();
-/// Starts the sequence anew from the clock.
+/// Starts the program's own sequence anew from the clock.
 void SeedRandom();
-/// Another source of random numbers, for tests; an empty function brings the program's own back.
-void SetRandomPort(std::function<double()> source);
+using RandomSource = std::function<double()>;
+[[nodiscard]] Port<RandomSource> &RandomPort();
 
 /// Takes the machine's decimal separator, group separator and currency sign into force.
 void TakeRegionalSettings();
 
-/// Shows message boxes as windows from now on.
-void UseMessageBoxWindows();
+/// Shows a message box as a window.
+MsgAnswer ShowMessageBoxWindow(const Message &message);

@@ -1,4 +1,3 @@
-#include "core/MsgBox.h"
 #include "frame/platform/Machine.h"
 
 #include <QApplication>
@@ -71,10 +70,7 @@ private:
 };
 } // namespace
 
-void UseMessageBoxWindows()
+MsgAnswer ShowMessageBoxWindow(const Message &message)
 {
-    SetMsgBoxPort([](const Message &message) {
-        MessageBoxWindow box(message);
-        return AnswerOf(box.exec());
-    });
+    return AnswerOf(MessageBoxWindow(message).exec());
 }

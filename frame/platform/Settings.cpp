@@ -11,18 +11,9 @@ QString Wide(std::string_view text)
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
-std::unique_ptr<QSettings> &Port()
-{
-    static std::unique_ptr<QSettings> settings;
-    return settings;
-}
-
 QSettings &Settings()
 {
-    if (!Port())
-        Port() = std::make_unique<QSettings>(QSettings::IniFormat, QSettings::UserScope, Wide(kProgramTitle),
-                                             Wide(kProgramTitle));
-    return *Port();
+    return **SettingsPort();
 }
 
 QString Path(std::string_view section, std::string_view key)
@@ -49,7 +40,9 @@ void SaveSetting(std::string_view section, std::string_view key, std::string_vie
     Settings().sync();
 }
 
-void SetSettingsPort(std::unique_ptr<QSettings> settings)
+Port<SettingsSource> &SettingsPort()
 {
-    Port() = std::move(settings);
+    static Port<SettingsSource> port(std::make_unique<QSettings>(QSettings::IniFormat, QSettings::UserScope,
+                                                                 Wide(kProgramTitle), Wide(kProgramTitle)));
+    return port;
 }

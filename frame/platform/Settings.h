@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/numeric/Port.h"
+
 #include <memory>
 #include <string>
 #include <string_view>
@@ -11,5 +13,6 @@ class QSettings;
 /// Written at once. A write that fails is told to nobody.
 void SaveSetting(std::string_view section, std::string_view key, std::string_view value);
 
-/// Where the settings lie; the user's own place until this is called, and again after a call with none.
-void SetSettingsPort(std::unique_ptr<QSettings> settings);
+/// Where the settings lie: the user's own place unless another is set.
+using SettingsSource = std::unique_ptr<QSettings>;
+[[nodiscard]] Port<SettingsSource> &SettingsPort();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/numeric/Port.h"
+
 #include <QString>
 
 #include <memory>
@@ -20,5 +22,5 @@ public:
 };
 
 [[nodiscard]] Shell &DesktopShell();
-/// Another shell, for tests; none brings the desktop's own back.
-void SetShellPort(std::unique_ptr<Shell> shell);
+using ShellSource = std::unique_ptr<Shell>;
+[[nodiscard]] Port<ShellSource> &ShellPort();

@@ -1,4 +1,5 @@
 #include "core/ReturnCode.h"
+#include "core/numeric/Regional.h"
 #include "tests/core/SurveyTest.h"
 
 #include <algorithm>
@@ -46,7 +47,7 @@ TEST_F(Calculation, GivesTheWorkedSurveyToEveryDigitFreshAndReloaded)
     const std::int32_t shipID = AddShip(kWorkedShip);
     for (const std::string separator : {".", ","}) {
         SCOPED_TRACE("decimal separator " + separator);
-        SetRegional({separator, separator == "." ? "," : ".", "$"});
+        const ScopedPort inForce(RegionalPort(), {separator, separator == "." ? "," : ".", "$"});
         const std::int32_t recordID = AddSurvey(shipID, separator);
         std::string readings = kWorkedReadings;
         std::replace(readings.begin(), readings.end(), '.', separator.front());

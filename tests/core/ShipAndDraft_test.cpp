@@ -79,9 +79,8 @@ TEST_F(ShipAndDraft, NewDraftIsBlankButKeepsTypeShipAndTotal)
     draft.DraftMode(std::int16_t {1});
     ASSERT_EQ(draft.Calculate(0), ReturnCode::Calculated);
 
-    SetClock([] { return ClockTime {2024, 3, 5, 4, 7, 59}; });
+    const ScopedPort clock(ClockPort(), [] { return ClockTime {2024, 3, 5, 4, 7, 59}; });
     draft.NewDraft();
-    SetClock({});
     EXPECT_EQ(draft.DSDate() + " " + draft.DSTime(), "05-03-2024 04:07");
     for (const auto &[name, value] : Figures(draft))
         EXPECT_TRUE(value.IsEmptyText()) << name;

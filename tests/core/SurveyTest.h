@@ -1,7 +1,6 @@
 #pragma once
 
 #include "core/clsDraft.h"
-#include "core/numeric/Regional.h"
 #include "tests/support/MessageScript.h"
 #include "tests/support/TestStore.h"
 
@@ -35,8 +34,6 @@ void ExpectFigures(const FigureMap &figures, const std::string &list);
 class SurveyTest : public TestStore
 {
 protected:
-    ~SurveyTest() override { SetRegional({}); }
-
     std::int32_t AddShip(const ShipData &ship);
     /// A survey of that ship; its RecordID.
     std::int32_t AddSurvey(std::int32_t shipID, const std::string &voyage = "1");

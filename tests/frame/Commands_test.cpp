@@ -1,4 +1,5 @@
 #include "core/Clock.h"
+#include "frame/platform/Shell.h"
 #include "tests/frame/FrameTest.h"
 
 #include <gmock/gmock.h>
@@ -109,7 +110,7 @@ TEST_F(FrameTest, WithoutAChildTheGuardedCommandsDoNothingAndTheOthersEndTheProg
 TEST_F(FrameTest, ToolsAndLinksGoToTheDesktop)
 {
     QStringList opened;
-    SetShellPort(std::make_unique<RecordingShell>(opened));
+    const ScopedPort shell(ShellPort(), std::make_unique<RecordingShell>(opened));
     for (const char *key : {"mnuTools(10)", "mnuHelp(6)", "mnuHelp(10)", "mnuHelp(14)"})
         Choose(key);
     In<QAction>(Frame(), "mnuTessel(10)").trigger();
@@ -156,10 +157,9 @@ TEST_F(FrameTest, MenuItemsHaveNamesPicturesAndMnemonicsOfTheirOwn)
 
 TEST_F(FrameTest, TheStatusBarTellsTimeAndInsert)
 {
-    SetClock([] { return ClockTime {2024, 3, 14, 9, 26, 53}; });
+    const ScopedPort clock(ClockPort(), [] { return ClockTime {2024, 3, 14, 9, 26, 53}; });
     EXPECT_EQ(Panel(5), "09:26:53");
     EXPECT_EQ(Panel(6), "14 Mar 2024");
-    SetClock({});
     const QWidget &insert = In<QWidget>(Frame(), "sb1(4)");
     EXPECT_FALSE(insert.isEnabled());
     QTest::keyClick(Frame().windowHandle(), Qt::Key_Insert);

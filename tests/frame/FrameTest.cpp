@@ -1,11 +1,8 @@
 #include "tests/frame/FrameTest.h"
 
-#include "frame/platform/Settings.h"
-
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
-#include <QSettings>
 #include <QToolBar>
 
 FakeChild::FakeChild(const QString &name, QStringList &diary)
@@ -42,21 +39,10 @@ void FakeChild::Form_Unload(bool &cancel)
         ChildUnloaded();
 }
 
-FrameTest::FrameTest()
-{
-    SetSettingsPort(
-        std::make_unique<QSettings>(QString::fromStdString(File().string() + ".ini"), QSettings::IniFormat));
-    SetChildFactory(ChildWindow::Loading, [this] { return new FakeChild("Loading", mDiary); });
-    SetChildFactory(ChildWindow::Port, [this] { return new FakeChild("Port", mDiary); });
-}
-
 FrameTest::~FrameTest()
 {
     delete frmMDI::Loaded();
     gOpenChildCount = 0;
-    SetChildFactory(ChildWindow::Loading, {});
-    SetChildFactory(ChildWindow::Port, {});
-    SetShellPort(nullptr);
     EXPECT_EQ(Forms::Count(), 0);
 }
 

@@ -2,9 +2,9 @@
 
 #include "frame/frmMDI.h"
 #include "frame/mdlMain.h"
-#include "frame/platform/Shell.h"
 #include "tests/support/FatalRecorder.h"
 #include "tests/support/MessageScript.h"
+#include "tests/support/TestSettings.h"
 #include "tests/support/TestStore.h"
 #include "tests/support/UserActs.h"
 
@@ -39,7 +39,6 @@ private:
 class FrameTest : public TestStore
 {
 protected:
-    FrameTest();
     ~FrameTest() override;
 
     // The main window, shown and active.
@@ -57,6 +56,13 @@ protected:
 
     MessageScript mMessages;
     QStringList mDiary;
+
+private:
+    TestSettings mSettings {File().string() + ".ini"};
+    ScopedPort<ChildFactory> mLoading {ChildFactoryPort(ChildWindow::Loading),
+                                       [this] { return new FakeChild("Loading", mDiary); }};
+    ScopedPort<ChildFactory> mPort {ChildFactoryPort(ChildWindow::Port),
+                                    [this] { return new FakeChild("Port", mDiary); }};
 };
 
 // The widget of a name in a window.

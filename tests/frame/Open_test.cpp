@@ -121,7 +121,7 @@ TEST_F(OpenDialog, OpensWhatIsChosenByMouseAndByKeyboard)
 
     // No list offers the deductible items, but their name is known; other names open nothing.
     bool opened = false;
-    SetChildFactory(ChildWindow::DeductionMaster, [&] {
+    const ScopedPort deductions(ChildFactoryPort(ChildWindow::DeductionMaster), [&] {
         opened = true;
         return new FakeChild("Deductions", mDiary);
     });
@@ -134,7 +134,6 @@ TEST_F(OpenDialog, OpensWhatIsChosenByMouseAndByKeyboard)
     }
     EXPECT_TRUE(opened);
     EXPECT_EQ(gOpenChildCount, 4);
-    SetChildFactory(ChildWindow::DeductionMaster, {});
 
     InDialog([this] {
         QWidget *list = Part<QListWidget>("lvOpen").viewport();

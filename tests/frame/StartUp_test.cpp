@@ -113,7 +113,7 @@ TEST_F(FrameTest, TipsArePickedAtRandomAndTheSettingChangesByClickOnly)
         Run(std::string("INSERT INTO TipOfDay (Tip) VALUES ('") + tip + "')");
     SaveSetting("Options", "Show Tips at Startup", "0");
     double next = 0.999;
-    SetRandomPort([&] { return next; });
+    const ScopedPort numbers(RandomPort(), [&] { return next; });
     Choose("mnuHelp(5)");
     const auto &text = In<QLabel>(*Tip(), "lblTipText");
     EXPECT_EQ(text.text(), "third");
@@ -122,7 +122,6 @@ TEST_F(FrameTest, TipsArePickedAtRandomAndTheSettingChangesByClickOnly)
         Click(In<QPushButton>(*Tip(), "cmdNextTip"));
         EXPECT_EQ(text.text(), tip);
     }
-    SetRandomPort({});
 
     auto &box = In<QCheckBox>(*Tip(), "chkLoadTipsAtStartup");
     EXPECT_TRUE(box.isChecked());

@@ -41,7 +41,7 @@ void CheckField(std::string_view text, const RegionalSettings &regional)
         const Decimal rounded = number.Round(places);
         KEELMARK_EXPECT(rounded.Scale() <= places && rounded.Round(places) == rounded);
     }
-    SetRegional(regional);
+    const ScopedPort inForce(RegionalPort(), regional);
     KEELMARK_EXPECT(Value(Value(number).Text()).ToDecimal() == number);
     KEELMARK_EXPECT(Value(number).SqlText() == plain);
 }

@@ -1,17 +1,10 @@
 #include "tests/masters/HydrostaticDesk.h"
 
-#include "core/numeric/Regional.h"
-#include "frame/platform/Settings.h"
-
 #include <QLabel>
-#include <QSettings>
 #include <QToolBar>
 
 HydrostaticDesk::HydrostaticDesk()
 {
-    SetSettingsPort(
-        std::make_unique<QSettings>(QString::fromStdString(File().string() + ".ini"), QSettings::IniFormat));
-    SetChildFactory(ChildWindow::HydrostaticData, [] { return new frmHDT; });
     Run("INSERT INTO Port (PortName) VALUES ('Aden')");
     Run("INSERT INTO Ship (ShipName, CallSign, PortOfRegistry, Flag, OfficialNo, IMONo)"
         " VALUES ('Argo', 'ARGO7', 1, 'Malta', '7712', '9074729'), ('Borealis', NULL, NULL, NULL, NULL, NULL)");
@@ -25,8 +18,6 @@ HydrostaticDesk::~HydrostaticDesk()
 {
     delete frmMDI::Loaded();
     gOpenChildCount = 0;
-    SetChildFactory(ChildWindow::HydrostaticData, {});
-    SetRegional({});
     EXPECT_EQ(Forms::Count(), 0);
 }
 

@@ -7,6 +7,7 @@
 #include "masters/frmHDT.h"
 #include "tests/support/FatalRecorder.h"
 #include "tests/support/MessageScript.h"
+#include "tests/support/TestSettings.h"
 #include "tests/support/TestStore.h"
 #include "tests/support/UserActs.h"
 
@@ -70,6 +71,10 @@ protected:
     using TestStore::Ask;
 
     MessageScript mMessages;
+
+private:
+    TestSettings mSettings {File().string() + ".ini"};
+    ScopedPort<ChildFactory> mFactory {ChildFactoryPort(ChildWindow::HydrostaticData), [] { return new frmHDT; }};
 };
 
 inline constexpr const char *kUpdated = "Hydrostatic Data Table for current ship has been updated successfully.";

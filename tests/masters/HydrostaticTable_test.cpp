@@ -382,7 +382,7 @@ TEST_F(HydrostaticTable, ARefusedSaveLeavesStoreAndWindowAsTheyWere)
 
 TEST_F(HydrostaticTable, WritesAPointWhereTheScreenHasAComma)
 {
-    SetRegional({.decimalSeparator = ",", .groupSeparator = "."});
+    const ScopedPort inForce(RegionalPort(), {.decimalSeparator = ",", .groupSeparator = "."});
     Open();
     EXPECT_EQ(Shown(), "7,9 8 8,1 ");
     TypeRow("8,05 1 2 3 -4,5 5 6 7,25");

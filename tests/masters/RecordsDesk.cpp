@@ -1,21 +1,12 @@
 #include "tests/masters/RecordsDesk.h"
 
-#include "frame/platform/Settings.h"
-#include "masters/frmDeductionMaster.h"
-#include "masters/frmPortMaster.h"
-
 #include <QLabel>
 #include <QLineEdit>
-#include <QSettings>
 #include <QToolBar>
 
 RecordsDesk::RecordsDesk(ChildWindow kind)
     : mKind(kind)
 {
-    SetSettingsPort(
-        std::make_unique<QSettings>(QString::fromStdString(File().string() + ".ini"), QSettings::IniFormat));
-    SetChildFactory(ChildWindow::Port, [] { return new frmPortMaster; });
-    SetChildFactory(ChildWindow::DeductionMaster, [] { return new frmDeductionMaster; });
     ShowActive(Frame());
 }
 
@@ -23,8 +14,6 @@ RecordsDesk::~RecordsDesk()
 {
     delete frmMDI::Loaded();
     gOpenChildCount = 0;
-    SetChildFactory(ChildWindow::Port, {});
-    SetChildFactory(ChildWindow::DeductionMaster, {});
     EXPECT_EQ(Forms::Count(), 0);
 }
 

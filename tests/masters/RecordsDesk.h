@@ -3,8 +3,11 @@
 #include "frame/controls/DataList.h"
 #include "frame/frmMDI.h"
 #include "frame/mdlMain.h"
+#include "masters/frmDeductionMaster.h"
+#include "masters/frmPortMaster.h"
 #include "tests/support/FatalRecorder.h"
 #include "tests/support/MessageScript.h"
+#include "tests/support/TestSettings.h"
 #include "tests/support/TestStore.h"
 #include "tests/support/UserActs.h"
 
@@ -50,6 +53,10 @@ protected:
 
 private:
     ChildWindow mKind;
+    TestSettings mSettings {File().string() + ".ini"};
+    ScopedPort<ChildFactory> mPorts {ChildFactoryPort(ChildWindow::Port), [] { return new frmPortMaster; }};
+    ScopedPort<ChildFactory> mItems {ChildFactoryPort(ChildWindow::DeductionMaster),
+                                     [] { return new frmDeductionMaster; }};
 };
 
 inline constexpr const char *kAdd = "Are you sure you want to add a new record ?";

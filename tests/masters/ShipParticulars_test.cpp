@@ -2,11 +2,11 @@
 #include "frame/controls/DataCombo.h"
 #include "frame/frmMDI.h"
 #include "frame/mdlMain.h"
-#include "frame/platform/Settings.h"
 #include "frame/store/Connection.h"
 #include "masters/frmShipParticulars.h"
 #include "tests/support/FatalRecorder.h"
 #include "tests/support/MessageScript.h"
+#include "tests/support/TestSettings.h"
 #include "tests/support/TestStore.h"
 #include "tests/support/UserActs.h"
 
@@ -15,7 +15,6 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QMdiSubWindow>
-#include <QSettings>
 #include <QToolBar>
 
 #include <array>
@@ -41,9 +40,6 @@ class ShipParticulars : public TestStore
 protected:
     ShipParticulars()
     {
-        SetSettingsPort(
-            std::make_unique<QSettings>(QString::fromStdString(File().string() + ".ini"), QSettings::IniFormat));
-        SetChildFactory(ChildWindow::ShipParticulars, [] { return new frmShipParticulars; });
         Run("INSERT INTO Port (PortID, PortName) VALUES (7, 'Antwerp'), (8, 'Bergen')");
         ShowActive(Frame());
     }
@@ -52,8 +48,6 @@ protected:
     {
         delete frmMDI::Loaded();
         gOpenChildCount = 0;
-        SetChildFactory(ChildWindow::ShipParticulars, {});
-        SetRegional({});
         EXPECT_EQ(Forms::Count(), 0);
     }
 
@@ -142,6 +136,11 @@ protected:
     }
 
     MessageScript mMessages;
+
+private:
+    TestSettings mSettings {File().string() + ".ini"};
+    ScopedPort<ChildFactory> mFactory {ChildFactoryPort(ChildWindow::ShipParticulars),
+                                       [] { return new frmShipParticulars; }};
 };
 
 TEST_F(ShipParticulars, TheFirstShipOfAStoreIsTypedByKeyboardAndSavedByClosing)
@@ -435,7 +434,7 @@ TEST_F(ShipParticulars, ClosingAsksAndMayBeRefused)
 
 TEST_F(ShipParticulars, FiguresFollowTheRegionalSettingsAndKeepAllTheirDigits)
 {
-    SetRegional({.decimalSeparator = ",", .groupSeparator = "."});
+    const ScopedPort inForce(RegionalPort(), {.decimalSeparator = ",", .groupSeparator = "."});
     OpenWith({"Alpha"});
     EXPECT_EQ(Shown("txtLBP"), "171,5");
     Fill("txtLOA", "180,25");

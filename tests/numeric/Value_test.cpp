@@ -25,16 +25,6 @@ Value Dec(const char *text)
 {
     return Decimal::Parse(text);
 }
-
-/// The settings of a machine with a comma, for as long as it lives.
-class CommaMachine
-{
-public:
-    CommaMachine() { SetRegional({",", ".", "€"}); }
-    ~CommaMachine() { SetRegional({}); }
-    CommaMachine(const CommaMachine &) = delete;
-    CommaMachine &operator=(const CommaMachine &) = delete;
-};
 } // namespace
 
 TEST(Value, ArithmeticPromotesItsKinds)
@@ -130,7 +120,7 @@ TEST(Value, ComparesNumbersByValueAndNeverWithText)
 
 TEST(Value, DefaultTextFollowsTheMachineAndStatementTextDoesNot)
 {
-    const CommaMachine machine;
+    const ScopedPort commas(RegionalPort(), {",", ".", "€"});
     const struct {
         Value value;
         const char *text;

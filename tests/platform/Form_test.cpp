@@ -18,12 +18,13 @@ using testing::IsEmpty;
 class FakeFrame : public FrameLink
 {
 public:
-    FakeFrame() { Form::SetFrame(this); }
-    ~FakeFrame() override { Form::SetFrame(nullptr); }
     void SetMDIToolbar(std::string_view ButtonSettings) override { mHeard.emplace_back(ButtonSettings); }
     void SetHint(const QString &text) override { mHeard.push_back(text.toStdString()); }
 
     std::vector<std::string> mHeard;
+
+private:
+    ScopedPort<FrameLink *> mPort {FramePort(), this};
 };
 
 TEST(Form, IsLoadedUntilItsUnloadIsNotRefused)

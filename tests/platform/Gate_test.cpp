@@ -130,7 +130,7 @@ TEST(Gate, AnotherWindowIsReachedUnaskedButTheWayBackIsAsked)
 
 TEST(Gate, ARealBoxIsShownOnceAndTheFieldKeepsTheFocus)
 {
-    UseMessageBoxWindows();
+    const ScopedPort windows(MsgBoxPort(), ShowMessageBoxWindow);
     Desk desk;
     int boxes = 0;
     desk.mForm.OnValidate(&desk.mForm.txtFirst, [&](bool &cancel) {
@@ -148,7 +148,6 @@ TEST(Gate, ARealBoxIsShownOnceAndTheFieldKeepsTheFocus)
     EXPECT_EQ(desk.mForm.mClicks, 0);
     EXPECT_EQ(desk.Focus(), "txtFirst");
     EXPECT_FALSE(desk.mForm.cmdGo.isDown());
-    SetMsgBoxPort(nullptr);
 }
 
 TEST(Gate, NoSecondCheckRunsWhileOneDoes)
@@ -239,8 +238,8 @@ TEST(UntrappedErrors, EndTheProcessAfterThePlatformsMessage)
 {
     testing::FLAGS_gtest_death_test_style = "threadsafe";
     const auto end = [](std::int32_t number, const char *description) {
-        SetFatalPort(nullptr);
-        SetMsgBoxPort([](const Message &message) {
+        const ScopedPort own(FatalPort(), EndProgram);
+        const ScopedPort box(MsgBoxPort(), [](const Message &message) {
             std::cerr << message.caption << "|" << message.text << "|" << (message.icon == MsgIcon::Critical);
             Fatal(RuntimeError(ErrorNumber::Overflow));
             return MsgAnswer::Ok;

@@ -2,8 +2,8 @@
 
 #include "core/MsgBox.h"
 #include "core/numeric/RuntimeError.h"
-#include "frame/platform/Settings.h"
 #include "frame/platform/Shell.h"
+#include "tests/support/TestSettings.h"
 #include "tests/support/TestStore.h"
 #include "tests/support/UserActs.h"
 
@@ -13,11 +13,11 @@
 #include <QElapsedTimer>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QSettings>
 #include <QTest>
 #include <QTimer>
 
 #include <fstream>
+#include <optional>
 
 namespace
 {
@@ -26,38 +26,34 @@ namespace fs = std::filesystem;
 TEST(Settings, KeepWhatIsSavedUnderSectionAndKey)
 {
     const TestFolder folder;
-    const QString file = QString::fromStdString((folder.Path() / "user.ini").string());
-    const auto open = [&file] { SetSettingsPort(std::make_unique<QSettings>(file, QSettings::IniFormat)); };
-    open();
+    const fs::path file = folder.Path() / "user.ini";
+    std::optional<TestSettings> settings(file);
     EXPECT_EQ(GetSetting("Draft Survey Loading", "RecordID", "-1"), "-1");
     SaveSetting("Draft Survey Loading", "RecordID", "17");
     SaveSetting("Options", "Show Tips at Startup", "a, \"b\"; Ä");
-    EXPECT_TRUE(fs::exists(file.toStdString()));
-    open();
+    EXPECT_TRUE(fs::exists(file));
+    settings.emplace(file);
     EXPECT_EQ(GetSetting("Draft Survey Loading", "RecordID", "-1"), "17");
     EXPECT_EQ(GetSetting("Draft Survey Discharging", "RecordID", "-1"), "-1");
     EXPECT_EQ(GetSetting("Options", "Show Tips at Startup", ""), "a, \"b\"; Ä");
     // Another program writes in between; this one writes the same again, and where it cannot, goes on.
-    std::ofstream(file.toStdString()) << "[Options]\nOther=here\n[Draft%20Survey%20Loading]\nRecordID=4\n";
+    std::ofstream(file) << "[Options]\nOther=here\n[Draft%20Survey%20Loading]\nRecordID=4\n";
     EXPECT_EQ(GetSetting("Draft Survey Loading", "RecordID", "-1"), "4");
     SaveSetting("Draft Survey Loading", "RecordID", "17");
-    fs::remove(file.toStdString());
+    fs::remove(file);
     SaveSetting("Draft Survey Loading", "RecordID", "17");
-    EXPECT_TRUE(fs::exists(file.toStdString()));
-    fs::remove(file.toStdString());
-    fs::create_directories(file.toStdString());
+    EXPECT_TRUE(fs::exists(file));
+    fs::remove(file);
+    fs::create_directories(file);
     SaveSetting("Draft Survey Loading", "RecordID", "18");
-    SetSettingsPort(std::make_unique<QSettings>(file + ".next", QSettings::IniFormat));
 }
 
 // Shows the message as a window and does something at it.
 MsgAnswer AnswerAt(const Message &message, const std::function<void(QMessageBox &)> &act)
 {
-    UseMessageBoxWindows();
+    const ScopedPort windows(MsgBoxPort(), ShowMessageBoxWindow);
     QTimer::singleShot(0, [&act] { act(dynamic_cast<QMessageBox &>(*QApplication::activeModalWidget())); });
-    const MsgAnswer answer = MsgBox(message);
-    SetMsgBoxPort(nullptr);
-    return answer;
+    return MsgBox(message);
 }
 
 void PressEnter(QMessageBox &box)
@@ -115,7 +111,6 @@ protected:
     {
         qputenv("XDG_DATA_DIRS", mDataBefore);
         qputenv("PATH", mPathBefore);
-        SetShellPort(nullptr);
     }
 
     [[nodiscard]] const fs::path &Folder() const { return mFolder.Path(); }

@@ -18,25 +18,11 @@ class Preview : public testing::Test
 protected:
     Preview()
     {
-        SetSavePathPort([this](QWidget *, const QString &proposed) {
-            mProposed = proposed;
-            return mPath;
-        });
-        SetPrintPort([this](const Report &report) {
-            if (mPrinterGone)
-                throw RuntimeError(ErrorNumber::PrinterError);
-            mPrinted += report.Caption("lblVoyageID") + ";";
-        });
         ShowReport(mReport, &mDesk);
         mPreview = mDesk.findChild<ReportPreview *>();
         ShowActive(*mPreview);
     }
-    ~Preview() override
-    {
-        SetSavePathPort({});
-        SetPrintPort({});
-        mReport.Unload();
-    }
+    ~Preview() override { mReport.Unload(); }
     [[nodiscard]] std::string Told() const { return mPreview->findChild<QLabel *>("Told")->text().toStdString(); }
     void PressControl(Qt::Key key) { PressKey(*mPreview, key, Qt::ControlModifier); }
 
@@ -49,6 +35,17 @@ protected:
     QString mProposed;
     bool mPrinterGone = false;
     std::string mPrinted;
+
+private:
+    ScopedPort<SavePathSource> mDialog {SavePathPort(), [this](QWidget *, const QString &proposed) {
+                                            mProposed = proposed;
+                                            return mPath;
+                                        }};
+    ScopedPort<PrintSource> mPrinter {PrintPort(), [this](const Report &report) {
+                                          if (mPrinterGone)
+                                              throw RuntimeError(ErrorNumber::PrinterError);
+                                          mPrinted += report.Caption("lblVoyageID") + ";";
+                                      }};
 };
 
 TEST_F(Preview, ZoomsByKeysAndFitsThePage)

@@ -1,7 +1,5 @@
 #include "tests/strength/ChildProcess.h"
 
-#include "core/MsgBox.h"
-
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -48,10 +46,10 @@ int ChildProcess::Wait(int seconds)
     return -1;
 }
 
-void AgreeToEverything(std::vector<std::string> &told)
+ScopedPort<MsgBoxSource> AgreeToEverything(std::vector<std::string> &told)
 {
-    SetMsgBoxPort([&told](const Message &message) {
-        told.push_back(message.text);
-        return message.buttons == MsgButtons::Ok ? MsgAnswer::Ok : MsgAnswer::Yes;
-    });
+    return {MsgBoxPort(), [&told](const Message &message) {
+                told.push_back(message.text);
+                return message.buttons == MsgButtons::Ok ? MsgAnswer::Ok : MsgAnswer::Yes;
+            }};
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/MsgBox.h"
+
 #include <functional>
 #include <string>
 #include <vector>
@@ -26,5 +28,5 @@ private:
     bool mEnded = false;
 };
 
-/// Answers every message box Yes or OK and keeps the texts.
-void AgreeToEverything(std::vector<std::string> &told);
+/// Answers every message box Yes or OK and keeps the texts, while what it gives lives.
+[[nodiscard]] ScopedPort<MsgBoxSource> AgreeToEverything(std::vector<std::string> &told);

@@ -67,7 +67,7 @@ protected:
             {
                 ChildProcess child([&] {
                     Reopen(this->File());
-                    AgreeToEverything(told);
+                    const auto agreed = AgreeToEverything(told);
                     work();
                     return 1;
                 });
@@ -184,7 +184,7 @@ TEST_F(StoredSurveys, AFileThatCannotGrowFailsTheSaveAndLosesNothing)
             rlimit room {};
             getrlimit(RLIMIT_FSIZE, &room);
             const rlim_t usual = room.rlim_cur;
-            AgreeToEverything(told);
+            const auto agreed = AgreeToEverything(told);
             room.rlim_cur = limit;
             setrlimit(RLIMIT_FSIZE, &room);
             SaveNumber(number + 1);
@@ -218,7 +218,7 @@ TEST_F(StoredSurveys, TwoProgramsOnOneStoreLoseNothing)
     const auto saveSurveys = [this](const QString &name) {
         std::vector<std::string> told;
         Reopen(File());
-        AgreeToEverything(told);
+        const auto agreed = AgreeToEverything(told);
         Open();
         int saved = 0;
         for (int number = 0; number < kSaves; ++number) {
@@ -296,7 +296,7 @@ TEST_F(LockedStore, AStoreLockedByAnotherProgramIsSavedToOnceItIsFree)
     Run("PRAGMA busy_timeout = 0");
     const std::string before = Text("txtConstant");
     std::vector<std::string> told;
-    AgreeToEverything(told);
+    const auto agreed = AgreeToEverything(told);
     SaveNumber(351);
     ASSERT_EQ(told.size(), 1U);
     EXPECT_NE(told.front(), kSaved);

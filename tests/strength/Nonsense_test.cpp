@@ -1,6 +1,5 @@
 #include "frame/mdlMain.h"
 #include "frame/platform/Fatal.h"
-#include "frame/platform/Settings.h"
 #include "frame/platform/Shell.h"
 #include "masters/frmHDT.h"
 #include "masters/frmPortMaster.h"
@@ -11,10 +10,10 @@
 #include "survey_loading/frmDraftSurvey.h"
 #include "tests/strength/ChildProcess.h"
 #include "tests/strength/RandomUser.h"
+#include "tests/support/TestSettings.h"
 #include "tests/support/TestStore.h"
 
 #include <QApplication>
-#include <QSettings>
 
 #include <fstream>
 #include <iostream>
@@ -62,23 +61,22 @@ protected:
     {
         RandomUser user(seed);
         const std::string end = (File().parent_path() / "end").string();
-        SetSettingsPort(
-            std::make_unique<QSettings>(QString::fromStdString(File().string() + ".ini"), QSettings::IniFormat));
-        SetShellPort(std::make_unique<NoShell>());
-        SetChildFactory(ChildWindow::HydrostaticData, [] { return new frmHDT; });
-        SetChildFactory(ChildWindow::ShipParticulars, [] { return new frmShipParticulars; });
-        SetChildFactory(ChildWindow::Port, [] { return new frmPortMaster; });
-        SetChildFactory(ChildWindow::Loading, [] { return new frmDraftSurvey; });
-        SetChildFactory(ChildWindow::Discharging, [] { return new frmDSDispatch; });
-        SetMsgBoxPort([&user](const Message &message) { return user.AnswerTo(message); });
-        SetPrintPort([&user](const Report &) {
+        const TestSettings settings(File().string() + ".ini");
+        const ScopedPort shell(ShellPort(), std::make_unique<NoShell>());
+        ChildFactoryPort(ChildWindow::HydrostaticData).Set([] { return new frmHDT; });
+        ChildFactoryPort(ChildWindow::ShipParticulars).Set([] { return new frmShipParticulars; });
+        ChildFactoryPort(ChildWindow::Port).Set([] { return new frmPortMaster; });
+        ChildFactoryPort(ChildWindow::Loading).Set([] { return new frmDraftSurvey; });
+        ChildFactoryPort(ChildWindow::Discharging).Set([] { return new frmDSDispatch; });
+        const ScopedPort boxes(MsgBoxPort(), [&user](const Message &message) { return user.AnswerTo(message); });
+        const ScopedPort printer(PrintPort(), [&user](const Report &) {
             if (user.OnceIn(3))
                 throw RuntimeError(ErrorNumber::PrinterError);
         });
-        SetSavePathPort([this, &user](QWidget *, const QString &) {
+        const ScopedPort savePath(SavePathPort(), [this, &user](QWidget *, const QString &) {
             return QString::fromStdString(user.OnceIn(3) ? std::string() : File().string() + ".pdf");
         });
-        SetFatalPort([&](const RuntimeError &error) {
+        const ScopedPort fatal(FatalPort(), [&](const RuntimeError &error) {
             std::ofstream(end) << user.ActsDone() << ' ' << error.Number() << ' ' << error.Description() << "; "
                                << user.Last() << "; told before: " << user.Told() << '\n';
             std::_Exit(EXIT_FAILURE);

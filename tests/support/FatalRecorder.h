@@ -1,5 +1,7 @@
 #pragma once
 
+#include "frame/platform/Fatal.h"
+
 #include <cstdint>
 #include <vector>
 
@@ -8,17 +10,11 @@
 class FatalRecorder
 {
 public:
-    FatalRecorder();
-    ~FatalRecorder();
-    FatalRecorder(const FatalRecorder &) = delete;
-    FatalRecorder &operator=(const FatalRecorder &) = delete;
-
     /// The numbers so far, in their order.
     [[nodiscard]] const std::vector<std::int32_t> &Numbers() const { return mNumbers; }
 
-    /// What holds where there is no recorder.
-    static void FailTests();
-
 private:
     std::vector<std::int32_t> mNumbers;
+    ScopedPort<FatalSource> mPort {FatalPort(),
+                                   [this](const RuntimeError &error) { mNumbers.push_back(error.Number()); }};
 };

@@ -50,17 +50,6 @@ MsgAnswer Least(MsgButtons buttons)
 }
 } // namespace
 
-MessageScript::MessageScript()
-{
-    SetMsgBoxPort([this](const Message &message) { return Show(message); });
-}
-
-MessageScript::~MessageScript()
-{
-    SetMsgBoxPort(nullptr);
-    ExpectNoneLeft();
-}
-
 void MessageScript::Expect(const Message &message, MsgAnswer answer, const std::source_location &where)
 {
     if (!Offers(message.buttons, answer))

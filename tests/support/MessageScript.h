@@ -18,10 +18,7 @@
 class MessageScript
 {
 public:
-    MessageScript();
-    ~MessageScript();
-    MessageScript(const MessageScript &) = delete;
-    MessageScript &operator=(const MessageScript &) = delete;
+    ~MessageScript() { ExpectNoneLeft(); }
 
     /// Adds a box to those to come, in their order, and what the user presses on it.
     void Expect(const Message &message, MsgAnswer answer = MsgAnswer::Ok,
@@ -42,4 +39,5 @@ private:
 
     std::deque<Scene> mScenes;
     std::vector<Message> mShown;
+    ScopedPort<MsgBoxSource> mPort {MsgBoxPort(), [this](const Message &message) { return Show(message); }};
 };

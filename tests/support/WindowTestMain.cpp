@@ -1,14 +1,13 @@
 // The main function of the tests of windows: a program of its own, without a display and apart from the user's files.
 
 #include "frame/platform/Application.h"
-#include "frame/platform/Settings.h"
-#include "tests/support/FatalRecorder.h"
+#include "frame/platform/Fatal.h"
 #include "tests/support/OffscreenMessages.h"
+#include "tests/support/TestSettings.h"
 
 #include <gtest/gtest.h>
 
 #include <QLocale>
-#include <QSettings>
 #include <QTemporaryDir>
 
 // Qt's libraries are built without the clean-up of exceptions: a run-time error on its way through them to the
@@ -34,7 +33,9 @@ int main(int argc, char **argv)
     DropOffscreenMessages();
     Application application(argc, argv);
     Application::setStyle(QStringLiteral("Fusion"));
-    SetSettingsPort(std::make_unique<QSettings>(home.filePath(QStringLiteral("settings.ini")), QSettings::IniFormat));
-    FatalRecorder::FailTests();
+    const TestSettings settings(home.filePath(QStringLiteral("settings.ini")).toStdString());
+    const ScopedPort end(FatalPort(), [](const RuntimeError &error) {
+        ADD_FAILURE() << "A run-time error that no trap took: " << error.Number() << ", " << error.what();
+    });
     return RUN_ALL_TESTS();
 }

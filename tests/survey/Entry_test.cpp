@@ -83,7 +83,7 @@ TEST_F(Entry, ADateOrTimeThatIsNoneGivesWayToThePresentOnce)
 
 TEST_F(Entry, AMachineWithDecimalCommasReadsShowsAndStoresThem)
 {
-    SetRegional({.decimalSeparator = ",", .groupSeparator = ".", .currencySymbol = "€"});
+    const ScopedPort inForce(RegionalPort(), {.decimalSeparator = ",", .groupSeparator = ".", .currencySymbol = "€"});
     AddShip();
     Open();
     FillHeader();

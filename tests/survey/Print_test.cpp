@@ -17,15 +17,9 @@ protected:
     explicit Printing(ChildWindow kind = ChildWindow::Loading, ChildFactory factory = {})
         : SurveyDesk(kind, std::move(factory))
     {
-        SetPrintPort([this](const Report &report) {
-            if (mPrinterGone)
-                throw RuntimeError(ErrorNumber::PrinterError);
-            mPrinted = &report;
-        });
     }
     ~Printing() override
     {
-        SetPrintPort({});
         drptDraftSurvey().Unload();
         drptDSDispatch().Unload();
     }
@@ -42,6 +36,13 @@ protected:
 
     const Report *mPrinted = nullptr;
     bool mPrinterGone = false;
+
+private:
+    ScopedPort<PrintSource> mPrinter {PrintPort(), [this](const Report &report) {
+                                          if (mPrinterGone)
+                                              throw RuntimeError(ErrorNumber::PrinterError);
+                                          mPrinted = &report;
+                                      }};
 };
 
 TEST_F(Printing, SendsInitialAndFinalToThePrinter)

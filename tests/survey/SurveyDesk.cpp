@@ -1,7 +1,5 @@
 #include "tests/survey/SurveyDesk.h"
 
-#include "core/Clock.h"
-#include "core/numeric/Regional.h"
 #include "frame/platform/Settings.h"
 #include "survey_loading/frmDraftSurvey.h"
 
@@ -11,7 +9,6 @@
 #include <QJsonDocument>
 #include <QLabel>
 #include <QPlainTextEdit>
-#include <QSettings>
 #include <QTabBar>
 
 const QJsonObject &Surveys()
@@ -40,12 +37,9 @@ void Insert(const std::string &table, const QJsonObject &row, const std::string 
 
 SurveyDesk::SurveyDesk(ChildWindow kind, ChildFactory factory)
     : mKind(kind)
+    , mFactory(
+          ChildFactoryPort(kind), factory ? std::move(factory) : [] { return new frmDraftSurvey; })
 {
-    SetSettingsPort(
-        std::make_unique<QSettings>(QString::fromStdString(File().string() + ".ini"), QSettings::IniFormat));
-    SetClock([] { return ClockTime {2024, 3, 14, 9, 26, 53}; });
-    SetChildFactory(
-        kind, factory ? std::move(factory) : [] { return new frmDraftSurvey; });
     Frame().resize(1366, 768);
     ShowActive(Frame());
 }
@@ -54,9 +48,6 @@ SurveyDesk::~SurveyDesk()
 {
     delete frmMDI::Loaded();
     gOpenChildCount = 0;
-    SetChildFactory(mKind, {});
-    SetClock({});
-    SetRegional({});
     EXPECT_EQ(Forms::Count(), 0);
 }
 

@@ -1,10 +1,12 @@
 #pragma once
 
+#include "core/Clock.h"
 #include "frame/controls/Grid.h"
 #include "frame/frmMDI.h"
 #include "frame/mdlMain.h"
 #include "tests/support/FatalRecorder.h"
 #include "tests/support/MessageScript.h"
+#include "tests/support/TestSettings.h"
 #include "tests/support/TestStore.h"
 #include "tests/support/UserActs.h"
 
@@ -98,4 +100,7 @@ protected:
 
 private:
     ChildWindow mKind;
+    ScopedPort<ChildFactory> mFactory;
+    TestSettings mSettings {File().string() + ".ini"};
+    ScopedPort<ClockSource> mClock {ClockPort(), [] { return ClockTime {2024, 3, 14, 9, 26, 53}; }};
 };
