@@ -24,6 +24,8 @@ DeductionGrid::DeductionGrid(Grid &grid)
     txtGridTextbox->setAccessibleName(tr("Quantity of the deductible, tonnes"));
     txtGridTextbox->setMaxLength(10);
     txtGridTextbox->OnKeyDown([this](const QKeyEvent &event) { return KeyDown(event); });
+    // Until it is laid over a cell.
+    txtGridTextbox->hide();
     grid.SetSize(0, 2);
     connect(&grid, &Grid::EnterCell, this, &DeductionGrid::EnterCell);
     connect(&grid, &Grid::LeaveCell, this, &DeductionGrid::LeaveCell);

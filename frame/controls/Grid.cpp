@@ -94,6 +94,10 @@ void Grid::ClearCells()
 
 QTableWidgetItem &Grid::ItemAt(int row, int column)
 {
+    // What is put outside the grid goes nowhere.
+    static QTableWidgetItem nowhere;
+    if (row < 0 || row >= rowCount() || column < 0 || column >= columnCount())
+        return nowhere;
     if (!item(row, column))
         setItem(row, column, new QTableWidgetItem);
     return *item(row, column);

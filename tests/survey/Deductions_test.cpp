@@ -1,3 +1,4 @@
+#include "core/MsgBox.h"
 #include "tests/survey/SurveyDesk.h"
 
 namespace
@@ -55,6 +56,18 @@ TEST_F(DeductionsGrid, ARefusalKeepsTheCellAndTheRow)
     Click(*Deductions().viewport(), third.center());
     EXPECT_EQ(Row(), 2);
     EXPECT_EQ(Quantity(0), "350");
+}
+
+TEST_F(DeductionsGrid, ItemsThatCannotBeReadLeaveNoCellToTypeIn)
+{
+    AddShip();
+    Run("ALTER TABLE DeductionMaster RENAME TO Gone");
+    const UnsaidMessages quiet;
+    Open();
+    EXPECT_FALSE(The("txtGridTextbox").isVisible());
+    EnterWorked();
+    Press(Qt::Key_Return);
+    EXPECT_FALSE(The("txtGridTextbox").isVisible());
 }
 
 TEST_F(DeductionsGrid, ARefusalAtASaveLeavesTheOtherQuantitiesAsTyped)
