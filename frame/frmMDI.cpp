@@ -25,15 +25,6 @@ Qt::WindowFlags TitleFlags(const Form &form)
         & (Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinMaxButtonsHint
            | Qt::WindowCloseButtonHint);
 }
-
-template<class Act> void IgnoreFailures(Act act)
-{
-    try {
-        act();
-    } catch (const RuntimeError &) {
-        // Meant: most often there is no transaction to abandon, and nobody is left to tell.
-    }
-}
 } // namespace
 
 frmMDI &frmMDI::Global()
@@ -185,6 +176,13 @@ void frmMDI::FollowActiveChild()
     }
 }
 
+void frmMDI::ResendMask()
+{
+    const Form *form = FormInFront();
+    if (form && form == mActiveForm && Forms::Count() > 1)
+        SetMDIToolbar(form->ButtonMask());
+}
+
 Form &frmMDI::ActiveForm() const
 {
     Form *form = FormInFront();
@@ -236,6 +234,11 @@ void frmMDI::MDIForm_Unload()
 {
     if (!gConnection)
         return;
-    IgnoreFailures([] { gConnection->RollbackTrans(); });
-    IgnoreFailures([] { gConnection->Close(); });
+    for (void (Connection::*end)() : {&Connection::RollbackTrans, &Connection::Close}) {
+        try {
+            (*gConnection.*end)();
+        } catch (const RuntimeError &) {
+            // Meant: most often there is no transaction to abandon, and nobody is left to tell.
+        }
+    }
 }

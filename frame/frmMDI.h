@@ -45,6 +45,8 @@ public:
     /// Loads a child where it is not loaded yet, and brings it to the front.
     void ShowChild(Form &form);
     void ShowCoolBar(bool shown);
+    /// The commands as the child in front wants them, where it was in front before.
+    void ResendMask();
     /// The space that children have, and the height of the toolbar, shown or not. Pixels.
     [[nodiscard]] QSize ChildRoom() const;
     [[nodiscard]] int ToolbarHeight() const;

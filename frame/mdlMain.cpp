@@ -92,8 +92,11 @@ void ChildUnloaded(bool sendMask, bool hintOnlyAtTwo)
         frame->ShowCoolBar(false);
     const bool lastChild = hintOnlyAtTwo ? Forms::Count() == 2 : Forms::Count() <= 2;
     frame->SetHint(lastChild ? frmMDI::OpenHint() : QString());
-    if (sendMask)
-        frame->SetMDIToolbar("001001010");
+    if (!sendMask)
+        return;
+    frame->SetMDIToolbar("001001010");
+    // A child that stays in front is not activated anew.
+    QMetaObject::invokeMethod(frame, &frmMDI::ResendMask, Qt::QueuedConnection);
 }
 
 bool CenterForm(Form &form)
