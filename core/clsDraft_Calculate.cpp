@@ -2,6 +2,7 @@
 #include "core/ReturnCode.h"
 #include "core/clsDraft.h"
 
+#include <algorithm>
 #include <string>
 
 namespace
@@ -69,7 +70,10 @@ std::int32_t clsDraft::Calculate(std::int16_t mode)
 
 bool clsDraft::Recalculate()
 {
-    if (NetDisplacement().IsAbsent())
+    // A reading that is blank counts as 0.
+    const auto blank = [](const Value *reading) { return IsZero(*reading); };
+    const auto readings = {&mSpecificGravity, &mFwdPort, &mFwdStbd, &mMidPort, &mMidStbd, &mAftPort, &mAftStbd};
+    if (NetDisplacement().IsAbsent() || std::ranges::any_of(readings, blank))
         return false;
     const UnsaidMessages quiet;
     const Results before = mResults;

@@ -231,6 +231,17 @@ TEST_F(Save, AShipIsChangedInTheHeaderAndInTheDraftsThatWereTouched)
     EXPECT_EQ(Ask("SELECT Constant FROM DraftParticulars").Text(), "241.68513");
 }
 
+TEST_F(Save, ABlankReadingIsNotWorkedOut)
+{
+    StoreSurvey();
+    Open();
+    const std::string shown = Text("txtConstant") + Cell("fgrdFinalResult", 9, 1);
+    Fill("txtFwdPort", "");
+    SaveWell();
+    EXPECT_EQ(Text("txtConstant") + Cell("fgrdFinalResult", 9, 1), shown);
+    EXPECT_EQ(Ask("SELECT NetDisplacement FROM DraftDetails").Text(), "22441.68513");
+}
+
 TEST_F(Save, ARefusedQuantityIsNeitherReadNorCleared)
 {
     const char *const refusal = "Invalid quantity.\n\nPlease enter numeric value only.";
