@@ -7,19 +7,11 @@
 void TextTable::Redimension(std::int32_t lowRow, std::int32_t highRow, std::int32_t lowColumn, std::int32_t highColumn)
 {
     const auto columns = static_cast<std::size_t>(std::max(highColumn - lowColumn + 1, 0));
-    if (lowRow != mLowRow || lowColumn != mLowColumn) {
-        std::vector<Row> kept(static_cast<std::size_t>(std::max(highRow - lowRow + 1, 0)), Row(columns));
-        for (std::int32_t row = std::max(lowRow, mLowRow); row <= std::min(highRow, UpperRow()); ++row)
-            for (std::int32_t column = std::max(lowColumn, mLowColumn);
-                 column <= std::min(highColumn, mLowColumn + mColumns - 1); ++column)
-                kept[static_cast<std::size_t>(row - lowRow)][static_cast<std::size_t>(column - lowColumn)]
-                    = std::move(mRows[RowAt(row)][ColumnAt(column)]);
-        mRows = std::move(kept);
-    } else {
-        mRows.resize(static_cast<std::size_t>(std::max(highRow - lowRow + 1, 0)));
-        for (Row &row : mRows)
-            row.resize(columns);
-    }
+    if (lowRow != mLowRow || lowColumn != mLowColumn)
+        mRows.clear();
+    mRows.resize(static_cast<std::size_t>(std::max(highRow - lowRow + 1, 0)));
+    for (Row &row : mRows)
+        row.resize(columns);
     mLowRow = lowRow;
     mLowColumn = lowColumn;
     mColumns = static_cast<std::int32_t>(columns);

@@ -11,8 +11,8 @@
 class TextTable
 {
 public:
-    /// Gives the table new bounds, each pair included in it. The cells inside both the old and the new bounds keep
-    /// their texts, new ones are empty.
+    /// Gives the table new bounds, each pair included in it. Where the lower ones stay, the cells inside both
+    /// the old and the new bounds keep their texts; all others are empty.
     void Redimension(std::int32_t lowRow, std::int32_t highRow, std::int32_t lowColumn, std::int32_t highColumn);
     /// Empties every cell; the bounds stay.
     void Clear();

@@ -39,18 +39,27 @@ void Run(const std::string &sql, const std::vector<Cell> &parameters, const RowT
     statement.Step();
 }
 
-void Insert(Recordset::Rows &rows, const WriteTarget &target, std::size_t row)
+/// The columns that were given a value, one after another with a comma between, and the values.
+std::pair<std::string, std::vector<Cell>> Changed(const Recordset::Rows &rows, const WriteTarget &target,
+                                                  std::size_t row, const char *behindEach)
 {
     std::string names;
-    std::string marks;
     std::vector<Cell> values;
     for (std::size_t column = 0; column < rows.changed.size(); ++column) {
         if (!rows.changed[column])
             continue;
-        names += (values.empty() ? "" : ", ") + Quoted(target.columns[column]);
-        marks += values.empty() ? "?" : ", ?";
+        names += (values.empty() ? "" : ", ") + Quoted(target.columns[column]) + behindEach;
         values.push_back(rows.table.At(column, row));
     }
+    return {names, values};
+}
+
+void Insert(Recordset::Rows &rows, const WriteTarget &target, std::size_t row)
+{
+    const auto [names, values] = Changed(rows, target, row, "");
+    std::string marks;
+    for (std::size_t i = 0; i < values.size(); ++i)
+        marks += i == 0 ? "?" : ", ?";
     const std::string what = values.empty() ? "DEFAULT VALUES" : '(' + names + ") VALUES (" + marks + ')';
     Run("INSERT INTO " + Quoted(target.table) + ' ' + what, values, rows.table);
     Cell &key = rows.table.At(target.keyColumn, row);
@@ -60,14 +69,7 @@ void Insert(Recordset::Rows &rows, const WriteTarget &target, std::size_t row)
 
 void Change(const Recordset::Rows &rows, const WriteTarget &target, std::size_t row)
 {
-    std::string settings;
-    std::vector<Cell> values;
-    for (std::size_t column = 0; column < rows.changed.size(); ++column) {
-        if (!rows.changed[column])
-            continue;
-        settings += (values.empty() ? "" : ", ") + Quoted(target.columns[column]) + " = ?";
-        values.push_back(rows.table.At(column, row));
-    }
+    auto [settings, values] = Changed(rows, target, row, " = ?");
     if (values.empty())
         return;
     values.push_back(rows.before[target.keyColumn]);

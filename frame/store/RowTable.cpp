@@ -42,47 +42,6 @@ Cell RealCell(double number)
     return cell;
 }
 
-/// Memory of large tables that are gone, kept for the next ones. A draft is calculated over the same table again and
-/// again, and fresh pages from the system cost more than the rows that fill them.
-class SpareCells
-{
-public:
-    static constexpr std::size_t kLeast = 1024;
-
-    /// Room for at least so many cells with those that there are already.
-    void Enlarge(std::vector<Cell> &cells, std::size_t count)
-    {
-        if (cells.size() >= count)
-            return;
-        const auto fitting = std::find_if(mSpare.begin(), mSpare.end(),
-                                          [count](const std::vector<Cell> &spare) { return spare.size() >= count; });
-        if (fitting == mSpare.end()) {
-            cells.resize(count);
-            return;
-        }
-        std::copy(cells.begin(), cells.end(), fitting->begin());
-        cells = std::move(*fitting);
-        mSpare.erase(fitting);
-    }
-
-    void Keep(std::vector<Cell> &&cells)
-    {
-        if (cells.size() >= kLeast && cells.size() <= kMostCells && mSpare.size() < kMostColumns)
-            mSpare.push_back(std::move(cells));
-    }
-
-private:
-    static constexpr std::size_t kMostCells = 16384;
-    static constexpr std::size_t kMostColumns = 18;
-    std::vector<std::vector<Cell>> mSpare;
-};
-
-SpareCells &Spare()
-{
-    static SpareCells spare;
-    return spare;
-}
-
 RowTable::ColumnKind KindOf(const Value &value)
 {
     switch (value.Type()) {
@@ -117,31 +76,10 @@ RowTable::RowTable(Statement &select)
         mColumns[i].kind = KindOf(sqlite3_column_decltype(statement, static_cast<int>(i)));
     }
     while (select.Step()) {
-        MakeRoom();
+        AppendRow();
         for (std::size_t i = 0; i < mColumns.size(); ++i)
-            Read(select, i, mColumns[i].cells[mRowCount]);
-        ++mRowCount;
+            Read(select, i, mColumns[i].cells.back());
     }
-}
-
-RowTable::~RowTable()
-{
-    for (Column &column : mColumns)
-        Spare().Keep(std::move(column.cells));
-}
-
-void RowTable::MakeRoom()
-{
-    constexpr std::size_t kFirstRows = 64;
-    if (mRowCount < mRoom)
-        return;
-    const std::size_t rows = std::max(kFirstRows, 2 * mRowCount);
-    for (Column &column : mColumns)
-        if (rows < SpareCells::kLeast)
-            column.cells.resize(rows);
-        else
-            Spare().Enlarge(column.cells, rows);
-    mRoom = rows;
 }
 
 void RowTable::Read(Statement &select, std::size_t index, Cell &cell)
@@ -241,8 +179,14 @@ Cell RowTable::TextCell(std::string_view text)
 
 std::size_t RowTable::AppendRow()
 {
-    MakeRoom();
     for (Column &column : mColumns)
-        column.cells[mRowCount] = {};
+        column.cells.emplace_back();
     return mRowCount++;
+}
+
+void RowTable::RemoveLastRow()
+{
+    for (Column &column : mColumns)
+        column.cells.pop_back();
+    --mRowCount;
 }

@@ -32,7 +32,6 @@ public:
 
     /// Runs the statement and keeps its rows.
     explicit RowTable(Statement &select);
-    ~RowTable();
     RowTable(const RowTable &) = delete;
     RowTable &operator=(const RowTable &) = delete;
 
@@ -43,10 +42,7 @@ public:
     /// NoSuchColumn where there is none.
     [[nodiscard]] std::size_t RequireColumn(std::string_view name) const;
 
-    [[nodiscard]] std::span<const Cell> Cells(std::size_t column) const
-    {
-        return std::span(mColumns[column].cells).first(mRowCount);
-    }
+    [[nodiscard]] std::span<const Cell> Cells(std::size_t column) const { return mColumns[column].cells; }
     [[nodiscard]] Cell &At(std::size_t column, std::size_t row) { return mColumns[column].cells[row]; }
     [[nodiscard]] const Cell &At(std::size_t column, std::size_t row) const { return mColumns[column].cells[row]; }
     [[nodiscard]] std::string_view TextOf(const Cell &cell) const;
@@ -57,22 +53,20 @@ public:
 
     /// Appends a row of Null and returns its number.
     std::size_t AppendRow();
-    void RemoveLastRow() { --mRowCount; }
+    void RemoveLastRow();
 
 private:
     struct Column {
         std::string name;
         ColumnKind kind = ColumnKind::Any;
-        std::vector<Cell> cells; ///< mRoom of them at least
+        std::vector<Cell> cells;
     };
-    void MakeRoom();
     void Read(Statement &select, std::size_t index, Cell &cell);
     Cell TextCell(std::string_view text);
 
     std::vector<Column> mColumns;
     std::string mText;
     std::size_t mRowCount = 0;
-    std::size_t mRoom = 0; ///< rows that every column has room for
 };
 
 /// Orders two texts, the case of Latin letters apart: below, at or above 0.

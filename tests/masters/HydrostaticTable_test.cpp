@@ -49,9 +49,11 @@ TEST(TextTable, KeepsWhatLiesInBothBoundsAndSortsByNumber)
     EXPECT_EQ(table.Find(0, "9.50"), 2);
     EXPECT_EQ(table.Find(0, "9"), std::nullopt);
     table.DeleteRow(4);
-    table.Redimension(1, 5, 0, 2);
-    EXPECT_EQ(order(), "b e a spare  ");
+    table.Redimension(0, 5, 0, 2);
+    EXPECT_EQ(order(), "d b e a spare  ");
     EXPECT_EQ(table.Cell(1, 2), "");
+    table.Redimension(1, 5, 0, 2);
+    EXPECT_EQ(order(), "     ");
     EXPECT_THROW(table.Cell(0, 0, "x"), std::out_of_range);
     EXPECT_THROW(table.DeleteRow(6), std::out_of_range);
 }
