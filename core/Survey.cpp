@@ -205,7 +205,7 @@ void Survey::WriteHeader(const SurveyHeader &header)
     const std::string port = header.portID.SqlText();
     const std::string cargo = Quoted(header.cargo);
     if (mMode == 0) {
-        mRecordID = GetNewRecordID();
+        mRecordID = clsDraft::NewNumber("RecordID", "DraftParticulars", "GetNewRecordID");
         if (mRecordID == 0)
             throw RuntimeError(StoreError::StatementFailed, "There is no number for the survey.");
         gConnection->Execute("INSERT INTO DraftParticulars (RecordID, ShipID,VoyageID,PortID,Cargo,Constant, IsLoading)"
@@ -241,19 +241,6 @@ std::int32_t Survey::WriteDrafts()
         draft.ToSave(false);
     }
     return ReturnCode::Success;
-}
-
-std::int32_t Survey::GetNewRecordID()
-try {
-    Recordset highest;
-    highest.Open("SELECT MAX(RecordID) AS RecordID FROM DraftParticulars", CursorType::Dynamic,
-                 LockType::BatchOptimistic);
-    const Value recordID = highest.Fields("RecordID");
-    return recordID.IsNull() ? 1 : (recordID + Value(std::int16_t {1})).ToLong();
-} catch (const RuntimeError &error) {
-    // The source line names the draft although the routine is the survey's; users know it so.
-    MsgBox(error.Description().append(kTwoLineBreaks).append("Source :  clsDraft::GetNewRecordID"), MsgIcon::Critical);
-    return 0;
 }
 
 void Survey::ForgetUnsavedRow()

@@ -87,7 +87,6 @@ private:
     [[nodiscard]] bool IsConstantOf(const clsDraft &draft) const;
     void WriteHeader(const SurveyHeader &header);
     [[nodiscard]] std::int32_t WriteDrafts();
-    [[nodiscard]] static std::int32_t GetNewRecordID();
     /// The drafts of a tab and of those after it begin anew.
     void NewDrafts(const Stage &first);
     /// After a save was rolled back: the row of a survey that is not in the store must not lend its cargo.

@@ -128,6 +128,10 @@ public:
 
     /// A blank draft of the same type and ship, dated now. TotDeductibles is left as it was.
     void NewDraft();
+    /// The number for a new row of a table; 0 where a message has told that there is none. Users know every such
+    /// routine as a draft's.
+    [[nodiscard]] static std::int32_t NewNumber(const std::string &column, const std::string &table,
+                                                std::string_view routine);
     /// Writes the draft and its quantities under a survey's RecordID; nothing unless ToSave. Success, DuplicateDraft
     /// or SaveDraftFailed. Opens no transaction: the caller holds one.
     [[nodiscard]] std::int32_t SaveDraft(std::int32_t recordID);
@@ -185,7 +189,6 @@ private:
     [[nodiscard]] bool FillListCorrectionRow(clsHydrostaticData &table, const Value &mark, std::int16_t row,
                                              std::size_t column, std::string_view outOfTable);
 
-    [[nodiscard]] std::int32_t GetNewDraftID();
     [[nodiscard]] std::string InsertStatement(std::int32_t recordID) const;
     [[nodiscard]] std::string UpdateStatement() const;
     void SaveDeductions();

@@ -17,7 +17,7 @@ std::int32_t clsDraft::SaveDraft(std::int32_t recordID)
         return ReturnCode::Success;
     try {
         if (mDraftMode == 0) {
-            mDraftID = GetNewDraftID();
+            mDraftID = NewNumber("DraftID", "DraftDetails", "GetNewDraftID");
             if (mDraftID == 0)
                 return ReturnCode::SaveDraftFailed;
             gConnection->Execute(InsertStatement(recordID));
@@ -32,14 +32,16 @@ std::int32_t clsDraft::SaveDraft(std::int32_t recordID)
     }
 }
 
-std::int32_t clsDraft::GetNewDraftID()
+std::int32_t clsDraft::NewNumber(const std::string &column, const std::string &table, std::string_view routine)
 try {
     Recordset highest;
-    highest.Reopen("SELECT MAX(DraftID) AS DraftID FROM DraftDetails", CursorType::Dynamic, LockType::BatchOptimistic);
-    const Value draftID = highest.Fields("DraftID");
-    return draftID.IsNull() ? 1 : (draftID + Value(std::int16_t {1})).ToLong();
+    highest.Open("SELECT MAX(" + column + ") AS " + column + " FROM " + table, CursorType::Dynamic,
+                 LockType::BatchOptimistic);
+    const Value number = highest.Fields(column);
+    return number.IsNull() ? 1 : (number + Value(std::int16_t {1})).ToLong();
 } catch (const RuntimeError &error) {
-    MsgBox(error.Description().append(kTwoLineBreaks).append("Source :  clsDraft::GetNewDraftID"), MsgIcon::Critical);
+    MsgBox(error.Description().append(kTwoLineBreaks).append("Source :  clsDraft::").append(routine),
+           MsgIcon::Critical);
     return 0;
 }
 

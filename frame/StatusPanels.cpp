@@ -83,7 +83,8 @@ bool StatusPanels::eventFilter(QObject *watched, QEvent *event)
         const auto &key = static_cast<const QKeyEvent &>(*event);
         if (type == QEvent::KeyPress && key.key() == Qt::Key_Insert && !key.isAutoRepeat())
             mInsert = !mInsert;
-        ShowLockKeys();
+        if (key.key() == Qt::Key_CapsLock || key.key() == Qt::Key_NumLock || key.key() == Qt::Key_Insert)
+            ShowLockKeys();
     }
     return QStatusBar::eventFilter(watched, event);
 }

@@ -79,19 +79,14 @@ void HeaderFields::CheckShip(bool &cancel) const
 
 bool HeaderFields::ValidSelection() const
 {
-    struct Pick {
-        QString text;
-        const char *message;
-    };
-    const std::array<Pick, 3> picks {{
-        {ui.dcbShip->Text(), "Ship name has not been provided.\n\nPlease select a ship and try again."},
-        {ui.dcbVoyageID->Text(), "Voyage-ID has left empty.\n\nPlease select a Voyage-ID and try again."},
-        {ui.dcbPort->Text(), "No port has been specified for draft.\n\nPlease select a port and try again."},
-    }};
-    for (const Pick &pick : picks) {
-        if (!pick.text.isEmpty())
+    const std::pair<DataCombo *, const char *> picks[]
+        = {{ui.dcbShip, "Ship name has not been provided.\n\nPlease select a ship and try again."},
+           {ui.dcbVoyageID, "Voyage-ID has left empty.\n\nPlease select a Voyage-ID and try again."},
+           {ui.dcbPort, "No port has been specified for draft.\n\nPlease select a port and try again."}};
+    for (const auto &[picker, message] : picks) {
+        if (!picker->Text().isEmpty())
             continue;
-        TellExclamation(pick.message);
+        TellExclamation(message);
         return false;
     }
     return true;

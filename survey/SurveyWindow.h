@@ -80,7 +80,9 @@ private:
     // Stages
     [[nodiscard]] const Stage &ActiveStage() const { return Stage::OfTab(mTab); }
     [[nodiscard]] QCheckBox &ListCorrectionOf(const Stage &stage) const;
-    /// Shows a tab by program, which runs the change of tab where it is another one and mNoEvents is down.
+    /// Shows a tab and nothing else; which one it was.
+    int PutTab(const Stage &stage);
+    /// Shows a tab by program, which runs the change of tab where it is another one.
     void ActivateTab(const Stage &stage);
     void sstDraftSurvey_Click(int previousTab);
     void ShowStageControls(const Stage &stage);
@@ -107,7 +109,9 @@ private:
 
     // Entry
     void ListCorrection_Click(const Stage &stage);
-    /// Sets a list correction box by program, which runs its click where it changes and mNoEvents is down.
+    /// Sets a list correction box and nothing else. True where it has changed.
+    bool PutListCorrection(const Stage &stage, bool on);
+    /// Sets a list correction box by program, which runs its click where it changes.
     void SetListCorrection(const Stage &stage, bool on);
 
     /// Run-time errors for a ship or port that cannot be read.
@@ -127,6 +131,8 @@ private:
     [[nodiscard]] bool SaveBeforeNewDaily();
     /// Saves on the way to a new survey and tells what went wrong. True where it went well.
     [[nodiscard]] bool SaveBeforeNew();
+    /// Asks and deletes; tells where that failed. True where the draft is gone.
+    [[nodiscard]] bool DeleteDraft(const Stage &stage, const char *question, const char *failure, const char *caption);
     void DeleteInitial();
     void DeleteDaily();
     void DeleteFinal();

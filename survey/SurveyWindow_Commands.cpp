@@ -4,14 +4,13 @@
 #include "survey/SurveyMessages.h"
 #include "survey/SurveyWindow.h"
 
-#include <QScopedValueRollback>
-
 namespace
 {
 constexpr std::string_view kDuplicateDraft = "You are trying to update two or more drafts with same Date & Time.\n\n"
                                              "Please correct it and try again.";
 constexpr std::string_view kDuplicateSurvey
     = "Save aborted.\n\nYou already have a draft with specified Ship, VoyageID, and Port.";
+constexpr const char *kOneFailed = "An internal error has occured while deleting the current draft";
 constexpr std::string_view kNoChanges = "No changes to save.";
 constexpr std::string_view kContactUs = "\n\nPlease contact us with the error no. on the titlebar of this dialog box.";
 
@@ -19,15 +18,6 @@ MsgAnswer AskToSave(const char *text, MsgIcon icon = MsgIcon::Exclamation)
 {
     return MsgBox(
         Message {.text = text, .icon = icon, .buttons = MsgButtons::YesNoCancel, .defaultAnswer = MsgAnswer::Yes});
-}
-
-bool MayDelete(const char *text)
-{
-    return MsgBox(Message {.text = text,
-                           .icon = MsgIcon::Exclamation,
-                           .buttons = MsgButtons::YesNo,
-                           .defaultAnswer = MsgAnswer::No})
-        == MsgAnswer::Yes;
 }
 
 /// A save's code as a 16-bit number: overflow (6) for DuplicateDraft, as closing and New Daily are known for.
@@ -45,11 +35,6 @@ void TellSaveFailure(std::string_view caption)
 {
     MsgBox(std::string("An internal error has occured while updating draft/s").append(kContactUs), MsgIcon::Exclamation,
            caption);
-}
-
-void TellDeleteFailure(std::string_view text, std::string_view caption)
-{
-    MsgBox(std::string(text).append(kContactUs), MsgIcon::Critical, caption);
 }
 } // namespace
 
@@ -145,10 +130,7 @@ void SurveyWindow::RNew()
     }
     NewDraft();
     ResetWorkspace(false);
-    {
-        const QScopedValueRollback noEvents(mNoEvents, true);
-        ActivateTab(Stage::Initial);
-    }
+    PutTab(Stage::Initial);
     mResults.ShowHeadings(Stage::Initial, mKind.freshCaptions[0]);
     ui->dcbShip->setFocus();
 }
@@ -178,15 +160,24 @@ void SurveyWindow::RDelete()
         DeleteFinal();
 }
 
+bool SurveyWindow::DeleteDraft(const Stage &stage, const char *question, const char *failure, const char *caption)
+{
+    const Message asked {
+        .text = question, .icon = MsgIcon::Exclamation, .buttons = MsgButtons::YesNo, .defaultAnswer = MsgAnswer::No};
+    if (MsgBox(asked) != MsgAnswer::Yes)
+        return false;
+    const std::int32_t code = mSurvey.Draft(stage).DeleteDraft();
+    if (code == ReturnCode::DeleteDraftFailed)
+        MsgBox(std::string(failure).append(kContactUs), MsgIcon::Critical, caption);
+    return code == ReturnCode::Success;
+}
+
 void SurveyWindow::DeleteInitial()
 {
-    if (!MayDelete("Deletion of Initial draft will also delete Final and all Daily drafts.\n\n"
-                   "Are you sure to continue ?"))
-        return;
-    const std::int32_t code = mSurvey.Draft(Stage::Initial).DeleteDraft();
-    if (code == ReturnCode::DeleteDraftFailed)
-        TellDeleteFailure("An internal error has occured while deleting draft/s", "Keelmark-10000");
-    if (code != ReturnCode::Success)
+    if (!DeleteDraft(Stage::Initial,
+                     "Deletion of Initial draft will also delete Final and all Daily drafts.\n\n"
+                     "Are you sure to continue ?",
+                     "An internal error has occured while deleting draft/s", "Keelmark-10000"))
         return;
     if (GetSetting(mKind.settingsSection, "RecordID", "0") == std::to_string(mSurvey.RecordID()))
         SaveSetting(mKind.settingsSection, "RecordID", "0");
@@ -197,12 +188,7 @@ void SurveyWindow::DeleteInitial()
 
 void SurveyWindow::DeleteDaily()
 {
-    if (!MayDelete("Are you sure to delete the daily draft ?"))
-        return;
-    const std::int32_t code = mSurvey.Draft(Stage::Daily).DeleteDraft();
-    if (code == ReturnCode::DeleteDraftFailed)
-        TellDeleteFailure("An internal error has occured while deleting the current draft", "Keelmark-10000");
-    if (code != ReturnCode::Success)
+    if (!DeleteDraft(Stage::Daily, "Are you sure to delete the daily draft ?", kOneFailed, "Keelmark-10000"))
         return;
     NewDailyDraft();
     mLists.InitDateDataCombo();
@@ -213,20 +199,12 @@ void SurveyWindow::DeleteDaily()
 
 void SurveyWindow::DeleteFinal()
 {
-    if (!MayDelete("Are you sure to delete the final draft ?"))
-        return;
-    const std::int32_t code = mSurvey.Draft(Stage::Final).DeleteDraft();
     // No hyphen in this caption, unlike the other two.
-    if (code == ReturnCode::DeleteDraftFailed)
-        TellDeleteFailure("An internal error has occured while deleting the current draft", "Keelmark10000");
-    if (code != ReturnCode::Success)
+    if (!DeleteDraft(Stage::Final, "Are you sure to delete the final draft ?", kOneFailed, "Keelmark10000"))
         return;
     SendMask("111111011");
     LoadDraft(Stage::Final);
-    {
-        const QScopedValueRollback noEvents(mNoEvents, true);
-        SetListCorrection(Stage::Final, false);
-    }
+    PutListCorrection(Stage::Final, false);
     ui->dcbDate->setEnabled(false);
     ui->cmbTime->setEnabled(false);
     ui->cmdNewDailyDraft->hide();

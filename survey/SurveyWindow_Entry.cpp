@@ -43,16 +43,19 @@ void SurveyWindow::ConnectChecks()
         OnValidate(ui->txtCargo, [this](bool &) { mSurvey.HeaderDirty(true); });
 }
 
-void SurveyWindow::SetListCorrection(const Stage &stage, bool on)
+bool SurveyWindow::PutListCorrection(const Stage &stage, bool on)
 {
     QCheckBox &box = ListCorrectionOf(stage);
-    if (box.isChecked() == on)
-        return;
-    {
-        const QSignalBlocker quiet(box);
-        box.setChecked(on);
-    }
-    ListCorrection_Click(stage);
+    const bool changes = box.isChecked() != on;
+    const QSignalBlocker quiet(box);
+    box.setChecked(on);
+    return changes;
+}
+
+void SurveyWindow::SetListCorrection(const Stage &stage, bool on)
+{
+    if (PutListCorrection(stage, on))
+        ListCorrection_Click(stage);
 }
 
 void SurveyWindow::ListCorrection_Click(const Stage &stage)

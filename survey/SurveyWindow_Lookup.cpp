@@ -4,8 +4,6 @@
 #include "survey/SurveyMessages.h"
 #include "survey/SurveyWindow.h"
 
-#include <QScopedValueRollback>
-
 void SurveyWindow::cmdGetDrafts_Click()
 {
     if (ActiveStage() == Stage::Initial) {
@@ -96,10 +94,7 @@ void SurveyWindow::TellNoSurvey()
     const SurveyHeader asked = mHeader.Read();
     NewDraft();
     ResetWorkspace(false);
-    {
-        const QScopedValueRollback noEvents(mNoEvents, true);
-        ActivateTab(Stage::Initial);
-    }
+    PutTab(Stage::Initial);
     mHeader.ShowPicks(asked);
     MsgBox("No draft exists corresponding to provided ShipID, VoyageID, & PortID");
 }

@@ -4,8 +4,6 @@
 #include "survey/SurveyMessages.h"
 #include "survey/SurveyWindow.h"
 
-#include <QScopedValueRollback>
-
 namespace
 {
 constexpr std::int16_t kFullRun = 0;
@@ -57,10 +55,7 @@ void SurveyWindow::ShowDraft(const Stage &stage)
             mHeader.ShowCargo(*cargo);
     }
     mEntries.Show(draft);
-    {
-        const QScopedValueRollback noEvents(mNoEvents, true);
-        SetListCorrection(stage, draft.ListCorrected());
-    }
+    PutListCorrection(stage, draft.ListCorrected());
     ui->txtComments->setPlainText(QString::fromStdString(draft.Comments()));
     if (ShowResults(draft))
         mDeductions.Show(mSurvey.Draft(ActiveStage()), mKind.zeroFillsQuantities);

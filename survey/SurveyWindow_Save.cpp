@@ -5,8 +5,6 @@
 #include "survey/SurveyMessages.h"
 #include "survey/SurveyWindow.h"
 
-#include <QScopedValueRollback>
-
 #include <algorithm>
 
 namespace
@@ -102,10 +100,7 @@ void SurveyWindow::NewDailyDraft()
     InitializeAllGrids(true);
     mCurDraft = &mSurvey.Draft(Stage::Daily);
     mEntries.ShowMoment(mSurvey.Draft(Stage::Daily));
-    {
-        const QScopedValueRollback noEvents(mNoEvents, true);
-        SetListCorrection(Stage::Daily, false);
-    }
+    PutListCorrection(Stage::Daily, false);
     ui->dcbDate->setEnabled(true);
     ui->cmbTime->setEnabled(true);
     ui->cmdNewDailyDraft->show();

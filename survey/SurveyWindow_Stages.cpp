@@ -29,13 +29,16 @@ QCheckBox &SurveyWindow::ListCorrectionOf(const Stage &stage) const
     return stage == Stage::Daily ? *ui->chkDailyListCorrection : *ui->chkFinalListCorrection;
 }
 
+int SurveyWindow::PutTab(const Stage &stage)
+{
+    const QSignalBlocker quiet(ui->sstDraftSurvey);
+    ui->sstDraftSurvey->setCurrentIndex(stage.Tab());
+    return std::exchange(mTab, stage.Tab());
+}
+
 void SurveyWindow::ActivateTab(const Stage &stage)
 {
-    {
-        const QSignalBlocker quiet(ui->sstDraftSurvey);
-        ui->sstDraftSurvey->setCurrentIndex(stage.Tab());
-    }
-    const int previous = std::exchange(mTab, stage.Tab());
+    const int previous = PutTab(stage);
     if (previous != mTab)
         sstDraftSurvey_Click(previous);
 }
@@ -76,6 +79,8 @@ void SurveyWindow::sstDraftSurvey_Click(int previousTab)
         return;
     }
     ui->txtDensity->setFocus();
+    // It may have had the focus all along.
+    ui->txtDensity->selectAll();
 }
 
 void SurveyWindow::ShowStageControls(const Stage &stage)
@@ -104,7 +109,7 @@ void SurveyWindow::ResetWorkspace(bool loadLast)
         ui->txtDeflection->clear();
         ui->fgrdHDT->show();
         for (const Stage &stage : Stage::All()) {
-            SetListCorrection(stage, false);
+            PutListCorrection(stage, false);
             if (mKind.resetsListCorrection)
                 ListCorrectionOf(stage).setVisible(stage == Stage::Initial);
         }

@@ -21,30 +21,28 @@ constexpr std::array<std::string_view, 4> kSpaces = {" ", kNoBreakSpace, kThinSp
 
 std::size_t LeadingSpace(std::string_view text)
 {
-    for (const std::string_view space : kSpaces) {
-        if (text.starts_with(space))
-            return space.size();
-    }
-    return 0;
+    const auto found
+        = std::ranges::find_if(kSpaces, [text](std::string_view space) { return text.starts_with(space); });
+    return found == kSpaces.end() ? 0 : found->size();
+}
+
+bool IsControl(char letter)
+{
+    return letter >= '\t' && letter <= '\r';
 }
 
 /// The bytes of the blank that the text begins with, 0 where it begins with none.
 std::size_t LeadingBlank(std::string_view text)
 {
-    if (!text.empty() && text.front() >= '\t' && text.front() <= '\r')
-        return 1;
-    return LeadingSpace(text);
+    return !text.empty() && IsControl(text.front()) ? 1 : LeadingSpace(text);
 }
 
 std::size_t TrailingBlank(std::string_view text)
 {
-    if (!text.empty() && text.back() >= '\t' && text.back() <= '\r')
+    if (!text.empty() && IsControl(text.back()))
         return 1;
-    for (const std::string_view space : kSpaces) {
-        if (text.ends_with(space))
-            return space.size();
-    }
-    return 0;
+    const auto found = std::ranges::find_if(kSpaces, [text](std::string_view space) { return text.ends_with(space); });
+    return found == kSpaces.end() ? 0 : found->size();
 }
 
 bool IsDigit(char letter)

@@ -20,7 +20,7 @@ FloatingEditor::FloatingEditor(QWidget *parent)
 
 void FloatingEditor::Place(Grid &grid, int row, int column)
 {
-    if (mGrid != &grid)
+    if (!mGrid)
         Watch(grid);
     mRow = row;
     mColumn = column;
@@ -29,13 +29,6 @@ void FloatingEditor::Place(Grid &grid, int row, int column)
 
 void FloatingEditor::Watch(Grid &grid)
 {
-    if (mGrid) {
-        mGrid->removeEventFilter(this);
-        for (QObject *sender :
-             std::initializer_list<QObject *> {mGrid->horizontalScrollBar(), mGrid->verticalScrollBar(),
-                                               mGrid->horizontalHeader(), mGrid->verticalHeader()})
-            sender->disconnect(this);
-    }
     mGrid = &grid;
     grid.setFocusPolicy(Qt::ClickFocus);
     grid.installEventFilter(this);

@@ -22,8 +22,8 @@ public:
 
     explicit FloatingEditor(QWidget *parent = nullptr);
 
-    /// Lays the editor over a cell; a sibling of the grid, on top of it. From the first time on, a click on the grid
-    /// passes the check of the control that has the focus, as a click on any other control does.
+    /// Lays the editor over a cell of its one grid; a sibling of the grid, on top of it. From the first time on, a
+    /// click on the grid passes the check of the control that has the focus, as a click on any other control does.
     void Place(Grid &grid, int row, int column);
     void OnKeyDown(KeyHook hook);
 
