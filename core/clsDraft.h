@@ -5,7 +5,6 @@
 
 #include <array>
 #include <cstdint>
-#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -144,8 +143,8 @@ public:
     /// Mode 0 (or any other): the full run. Mode 1: from the list correction on, with the table values of the last
     /// full run. Calculated, or NotCalculated when a message has told why.
     [[nodiscard]] std::int32_t Calculate(std::int16_t mode);
-    /// The full run of a draft that has a net displacement, with no message whatever happens. Where it gives no new one
-    /// it is false, and the draft is as it was.
+    /// The full run of a draft that has a net displacement, with no message whatever happens. Where it fails or gives
+    /// the same again it is false, and the draft is as it was.
     [[nodiscard]] bool Recalculate();
 
 private:
@@ -154,10 +153,12 @@ private:
         Value factor;
         Value value;
         Value resultant;
+        bool operator==(const MarkTPC &) const = default;
     };
     /// All that a calculation gives; empty text before the first.
     struct Results {
         Results();
+        bool operator==(const Results &) const = default;
 
         Value fwdMean, midMean, aftMean, apparentTrim;
         Value fwdCorrection, midCorrection, aftCorrection;
@@ -212,6 +213,6 @@ private:
     Results mResults;
 
     clsShip mShip;
-    std::unique_ptr<clsHydrostaticData> mHydrostatics;
+    clsHydrostaticData mHydrostatics; ///< of the last full run
     std::optional<std::vector<ItemQuantity>> mDeductions;
 };

@@ -35,9 +35,8 @@ std::int32_t clsDraft::Calculate(std::int16_t mode)
     try {
         if (mode != 1) {
             CalculateDrafts();
-            mHydrostatics = std::make_unique<clsHydrostaticData>();
-            static_cast<void>(mHydrostatics->InitHDT(mShip.ShipID()));
-            const Value maxTMD = mHydrostatics->GetMaxTMD();
+            static_cast<void>(mHydrostatics.InitHDT(mShip.ShipID()));
+            const Value maxTMD = mHydrostatics.GetMaxTMD();
             if (maxTMD == Value(ReturnCode::NoMaxTMD)) {
                 MsgBox("An internal error has occured while calculating draft.\n\n"
                        "Please contact us with the error no. on the titlebar of this dialog box.",
@@ -78,14 +77,12 @@ bool clsDraft::Recalculate()
     const UnsaidMessages quiet;
     const Results before = mResults;
     const Value deducted = mTotDeductibles;
-    std::unique_ptr<clsHydrostaticData> table = std::move(mHydrostatics);
     // Marks at 0 end a run without a figure.
     mResults.finalResult[9] = Value::EmptyText();
     if (Calculate(0) == ReturnCode::Calculated && !quiet.Any() && !NetDisplacement().IsAbsent())
-        return true;
+        return mResults != before;
     mResults = before;
     mTotDeductibles = deducted;
-    mHydrostatics = std::move(table);
     return false;
 }
 
@@ -114,7 +111,7 @@ bool clsDraft::CalculateAtTrueMeanDraft()
     if (!TakeBoundRow(0) || !TakeBoundRow(1) || !TakeResultantVals())
         return false;
 
-    const clsHydrostaticData &table = *mHydrostatics;
+    const clsHydrostaticData &table = mHydrostatics;
     mResults.ipFactor = table.IpFactor();
     mResults.mctcPlus50IpFactor = table.IfMCTCPlus50();
     mResults.mctcMinus50IpFactor = table.IfMCTCMinus50();
@@ -138,7 +135,7 @@ bool clsDraft::CalculateAtTrueMeanDraft()
 bool clsDraft::TakeBoundRow(std::int16_t row)
 {
     const bool below = row == 0;
-    const std::int32_t code = mHydrostatics->getBound(mResults.trueMeanDraft, row);
+    const std::int32_t code = mHydrostatics.getBound(mResults.trueMeanDraft, row);
     if (code == ReturnCode::Success) {
         FillBoundRow(static_cast<std::size_t>(row));
         return true;
@@ -156,7 +153,7 @@ bool clsDraft::TakeBoundRow(std::int16_t row)
 
 bool clsDraft::TakeResultantVals()
 {
-    const std::int32_t code = mHydrostatics->getResultantVals(mResults.trueMeanDraft);
+    const std::int32_t code = mHydrostatics.getResultantVals(mResults.trueMeanDraft);
     if (code == ReturnCode::DraftAboveTable)
         MsgBox(kAboveTable, MsgIcon::Critical);
     else if (code == ReturnCode::DraftBelowTable)
@@ -166,7 +163,7 @@ bool clsDraft::TakeResultantVals()
 
 void clsDraft::FillBoundRow(std::size_t row)
 {
-    const clsHydrostaticData &table = *mHydrostatics;
+    const clsHydrostaticData &table = mHydrostatics;
     mResults.hdt[row] = {Round(table.TMD(), 3), Round(table.Displacement(), 3), Round(table.TPC(), 3),
                          Round(table.LCF(), 3), Round(table.MCTCPlus50(), 3),   Round(table.MCTCMinus50(), 3)};
     for (std::size_t column = 0; row == 1 && column < mResults.hdt[2].size(); ++column)

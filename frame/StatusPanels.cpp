@@ -4,27 +4,21 @@
 #include "frame/platform/Machine.h"
 
 #include <QCoreApplication>
-#include <QDateTime>
+#include <QDate>
 #include <QKeyEvent>
 #include <QLocale>
 #include <QWindow>
 
 namespace
 {
-QDateTime LocalNow()
+QString TimeText(const QTime &time)
 {
-    const ClockTime now = Now();
-    return {QDate(now.year, now.month, now.day), QTime(now.hour, now.minute, now.second)};
+    return QLocale::system().toString(time, QLocale::ShortFormat);
 }
 
-QString TimeText(const QDateTime &moment)
+QString DateText(const QDate &date)
 {
-    return QLocale::system().toString(moment.time(), QLocale::ShortFormat);
-}
-
-QString DateText(const QDateTime &moment)
-{
-    return QLocale::system().toString(moment.date(), QLocale::ShortFormat);
+    return QLocale::system().toString(date, QLocale::ShortFormat);
 }
 } // namespace
 
@@ -33,13 +27,12 @@ StatusPanels::StatusPanels(QWidget *parent)
 {
     setObjectName("sb1");
     setAccessibleName(tr("Status bar"));
-    const QDateTime wide(QDate(2028, 12, 28), QTime(22, 58, 58));
     AddPanel(1, tr("Message"), {});
     AddPanel(2, tr("Caps Lock"), "CAPS");
     AddPanel(3, tr("Num Lock"), "NUM");
     AddPanel(4, tr("Insert"), "INS");
-    AddPanel(5, tr("Time"), TimeText(wide));
-    AddPanel(6, tr("Date"), DateText(wide));
+    AddPanel(5, tr("Time"), TimeText({22, 58, 58}));
+    AddPanel(6, tr("Date"), DateText({2028, 12, 28}));
     ShowLockKeys();
     ShowTime();
     connect(&mTimer, &QTimer::timeout, this, [this] {
@@ -106,7 +99,7 @@ void StatusPanels::ShowLockKeys()
 
 void StatusPanels::ShowTime()
 {
-    const QDateTime now = LocalNow();
-    SetPanel(5, TimeText(now));
-    SetPanel(6, DateText(now));
+    const ClockTime now = Now();
+    SetPanel(5, TimeText({now.hour, now.minute, now.second}));
+    SetPanel(6, DateText({now.year, now.month, now.day}));
 }

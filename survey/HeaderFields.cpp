@@ -21,6 +21,18 @@ SurveyHeader HeaderFields::Read() const
             .cargo = ui.txtCargo->text().toStdString()};
 }
 
+ReportedHeader HeaderFields::Reported() const
+{
+    const SurveyHeader header = Read();
+    ReportedHeader reported {.voyage = header.voyageID,
+                             .cargo = header.cargo,
+                             .portOfRegistry = mLists.PortText(mSurvey.Ship().PortOfRegistry()),
+                             .port = {}};
+    if (!header.portID.IsAbsent())
+        reported.port = mLists.PortText(header.portID);
+    return reported;
+}
+
 void HeaderFields::ShowPicks(const SurveyHeader &header) const
 {
     ui.dcbShip->SetBoundValue(header.shipID);

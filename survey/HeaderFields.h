@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/Survey.h"
+#include "reports/ReportFilling.h"
 
 #include <string>
 
@@ -18,6 +19,8 @@ public:
     HeaderFields(const Ui::SurveyWindow &controls, Survey &survey, SurveyLists &lists);
 
     [[nodiscard]] SurveyHeader Read() const;
+    /// The same for a report. Run-time errors for a ship or port that cannot be read.
+    [[nodiscard]] ReportedHeader Reported() const;
     /// Ship, voyage and port as if the user had picked them.
     void ShowPicks(const SurveyHeader &header) const;
     void ShowCargo(const std::string &cargo) const;

@@ -19,7 +19,6 @@ std::unique_ptr<Ui::SurveyWindow> MakeControls(QWidget &window)
     controls->setupUi(&window);
     return controls;
 }
-
 } // namespace
 
 SurveyWindow::SurveyWindow(const SurveyKind &kind, QWidget *parent)
@@ -37,8 +36,6 @@ SurveyWindow::SurveyWindow(const SurveyKind &kind, QWidget *parent)
     setWindowTitle(QLatin1String(kind.title));
     BuildWindow();
     ConnectEvents();
-    ConnectChecks();
-    AddPanel();
 }
 
 SurveyWindow::~SurveyWindow() = default;
@@ -52,21 +49,15 @@ void SurveyWindow::BuildWindow()
     ui->chkFinalListCorrection->hide();
     ui->mbxDate->SetMask(QStringLiteral("99-99-9999"));
     ui->mbxTime->SetMask(QStringLiteral("99:99"));
+    mPanel = mKind.makePanel({*this, *ui, mSurvey, mLists, mResults});
+    ui->layStageFrames->addWidget(mPanel);
+    mLists.UseBaselines(mPanel->Baselines(), [this] { mPanel->BaselinePicked(); });
     SetEntryOrder(*ui, mDeductions.Editor());
     mResults.ShowFresh(Stage::Initial, mKind.freshCaptions[0]);
     mResults.ClearListCorrection();
     FitGrids(*ui);
     FitFields(*this);
     ShowLocked(*this);
-}
-
-void SurveyWindow::AddPanel()
-{
-    mPanel = mKind.makePanel({*this, *ui, mSurvey, mLists, mResults});
-    ui->layStageFrames->addWidget(mPanel);
-    mLists.UseBaselines(mPanel->Baselines(), [this] { mPanel->BaselinePicked(); });
-    FitFields(*ui->wgtStageFrames);
-    ShowLocked(*ui->wgtStageFrames);
 }
 
 QSize SurveyWindow::sizeHint() const
@@ -118,6 +109,15 @@ void SurveyWindow::ConnectEvents()
     for (QLineEdit *field : {ui->txtCargo, ui->txtDensity, ui->txtFwdPort, ui->txtFwdStbd, ui->txtMidShipPort,
                              ui->txtMidshipStbd, ui->txtAftPort, ui->txtAftStbd})
         field->installEventFilter(this);
+    mDeductions.UseRule({.places = 4,
+                         .lowAccepted = true,
+                         .high = 100000,
+                         .notANumber = "Invalid quantity.\n\nPlease enter numeric value only.",
+                         .outOfRange = std::string("Invalid value.\n\n") + mKind.quantityRange});
+    OnValidate(&mDeductions.Editor(), [this](bool &cancel) { mDeductions.Validate(cancel); });
+    OnValidate(ui->dcbShip, [this](bool &cancel) { mHeader.CheckShip(cancel); });
+    if (mKind.cargoLeftIsChange)
+        OnValidate(ui->txtCargo, [this](bool &) { mSurvey.HeaderDirty(true); });
 }
 
 bool SurveyWindow::eventFilter(QObject *watched, QEvent *event)

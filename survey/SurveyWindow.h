@@ -18,7 +18,6 @@
 
 class QCheckBox;
 class QLineEdit;
-struct ReportedHeader;
 
 /// The window in which one survey is entered, calculated, saved and deleted: one voyage of one ship at one port, in
 /// one direction. One set of controls serves the three stages; the active tab decides which draft they show.
@@ -32,7 +31,6 @@ class SurveyWindow : public Form
 public:
     ~SurveyWindow() override;
 
-    [[nodiscard]] const Value &Constant() const { return mSurvey.Constant(); }
     void Constant(const Value &vNewConstant) { mSurvey.Constant(vNewConstant); }
 
     void Form_Load() override;
@@ -73,8 +71,6 @@ protected:
 private:
     void BuildWindow();
     void ConnectEvents();
-    void ConnectChecks();
-    void AddPanel();
     bool eventFilter(QObject *watched, QEvent *event) override;
 
     // Stages
@@ -111,12 +107,6 @@ private:
     void ListCorrection_Click(const Stage &stage);
     /// Sets a list correction box and nothing else. True where it has changed.
     bool PutListCorrection(const Stage &stage, bool on);
-    /// Sets a list correction box by program, which runs its click where it changes.
-    void SetListCorrection(const Stage &stage, bool on);
-
-    /// Run-time errors for a ship or port that cannot be read.
-    [[nodiscard]] ReportedHeader ReportHeader();
-    void FillReport(const ReportedHeader &header);
 
     // Saving
     [[nodiscard]] bool ValidDrafts();

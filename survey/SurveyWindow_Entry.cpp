@@ -10,7 +10,6 @@
 namespace
 {
 constexpr std::int16_t kShortRun = 1;
-
 } // namespace
 
 bool SurveyWindow::Form_KeyPress(QKeyEvent &event)
@@ -30,19 +29,6 @@ bool SurveyWindow::Form_KeyPress(QKeyEvent &event)
     return true;
 }
 
-void SurveyWindow::ConnectChecks()
-{
-    mDeductions.UseRule({.places = 4,
-                         .lowAccepted = true,
-                         .high = 100000,
-                         .notANumber = "Invalid quantity.\n\nPlease enter numeric value only.",
-                         .outOfRange = std::string("Invalid value.\n\n") + mKind.quantityRange});
-    OnValidate(&mDeductions.Editor(), [this](bool &cancel) { mDeductions.Validate(cancel); });
-    OnValidate(ui->dcbShip, [this](bool &cancel) { mHeader.CheckShip(cancel); });
-    if (mKind.cargoLeftIsChange)
-        OnValidate(ui->txtCargo, [this](bool &) { mSurvey.HeaderDirty(true); });
-}
-
 bool SurveyWindow::PutListCorrection(const Stage &stage, bool on)
 {
     QCheckBox &box = ListCorrectionOf(stage);
@@ -50,12 +36,6 @@ bool SurveyWindow::PutListCorrection(const Stage &stage, bool on)
     const QSignalBlocker quiet(box);
     box.setChecked(on);
     return changes;
-}
-
-void SurveyWindow::SetListCorrection(const Stage &stage, bool on)
-{
-    if (PutListCorrection(stage, on))
-        ListCorrection_Click(stage);
 }
 
 void SurveyWindow::ListCorrection_Click(const Stage &stage)

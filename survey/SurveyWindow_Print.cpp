@@ -9,34 +9,12 @@ namespace
 {
 constexpr std::string_view kPrintFailure = "Error while printing the report.\n\n"
                                            "Please contact us with the error number on the titlebar of this dialog box";
-
 } // namespace
 
 bool SurveyWindow::AnyToPrint() const
 {
     return mSurvey.Draft(Stage::Initial).IsThere()
         || (mKind.anyDraftPrints && (mSurvey.Draft(Stage::Daily).IsThere() || mSurvey.Draft(Stage::Final).IsThere()));
-}
-
-ReportedHeader SurveyWindow::ReportHeader()
-{
-    const SurveyHeader header = mHeader.Read();
-    ReportedHeader reported {.voyage = header.voyageID,
-                             .cargo = header.cargo,
-                             .portOfRegistry = mLists.PortText(mSurvey.Ship().PortOfRegistry()),
-                             .port = {}};
-    if (!header.portID.IsAbsent())
-        reported.port = mLists.PortText(header.portID);
-    return reported;
-}
-
-void SurveyWindow::FillReport(const ReportedHeader &header)
-try {
-    mKind.fillReport(mKind.report(), mSurvey, header);
-} catch (const RuntimeError &) {
-    // A page that is half filled is no report.
-    HideReport(mKind.report());
-    throw;
 }
 
 void SurveyWindow::RPrint(bool blnShowPreview)
@@ -48,7 +26,14 @@ try {
         TellExclamation(blnShowPreview ? "No valid draft for preview." : "No valid draft for printing.");
         return;
     }
-    FillReport(ReportHeader());
+    const ReportedHeader header = mHeader.Reported();
+    try {
+        mKind.fillReport(mKind.report(), mSurvey, header);
+    } catch (const RuntimeError &) {
+        // A page that is half filled is no report.
+        HideReport(mKind.report());
+        throw;
+    }
     if (blnShowPreview) {
         ShowReport(mKind.report(), window());
         return;

@@ -60,6 +60,8 @@ void SurveyWindow::sstDraftSurvey_Click(int previousTab)
         const Stage stage = ActiveStage();
         const bool known = mSurvey.Draft(stage).IsThere();
         ShowStageControls(stage);
+        for (const Stage &each : Stage::All())
+            ListCorrectionOf(each).setVisible(each == stage);
         if (stage == Stage::Daily) {
             ui->cmdNewDailyDraft->setEnabled(known);
             if (known)
@@ -89,8 +91,6 @@ void SurveyWindow::ShowStageControls(const Stage &stage)
     mHeader.Enable(stage == Stage::Initial);
     ui->dcbDate->setEnabled(daily);
     ui->cmbTime->setEnabled(daily);
-    for (const Stage &each : Stage::All())
-        ListCorrectionOf(each).setVisible(each == stage);
     ui->fgrdResult->setVisible(!daily);
     ui->cmdGetDrafts->setVisible(stage != Stage::Final);
     ui->cmdNewDailyDraft->setVisible(daily);
@@ -116,13 +116,7 @@ void SurveyWindow::ResetWorkspace(bool loadLast)
     }
 
     // An empty window stands on its first stage: the other frames would lie over this one.
-    mPanel->ShowFrames(Stage::Initial);
-    ui->fgrdResult->show();
-    mHeader.Enable(true);
-    ui->dcbDate->setEnabled(false);
-    ui->cmbTime->setEnabled(false);
-    ui->cmdNewDailyDraft->hide();
-    ui->cmdGetDrafts->show();
+    ShowStageControls(Stage::Initial);
     EnableSurveyTabs(false);
     mLists.InitVoyageIDDataCombo();
 
@@ -145,7 +139,8 @@ void SurveyWindow::ClearTextBoxes()
 
 void SurveyWindow::ClearReadOnly()
 {
-    SetListCorrection(ActiveStage(), false);
+    if (PutListCorrection(ActiveStage(), false))
+        ListCorrection_Click(ActiveStage());
     ClearFields([](const QLineEdit &field) { return field.isReadOnly(); });
     InitializeAllGrids(false);
 }

@@ -16,7 +16,6 @@ namespace
 {
 constexpr int kLeastCharacters = 10;
 constexpr int kVisibleRows = 16;
-
 } // namespace
 
 DataCombo::DataCombo(QWidget *parent)

@@ -31,7 +31,7 @@ breaches()
             }
         }
         FNR == 1 { from = roomOf(FILENAME) }
-        FNR == 601 { print FILENAME " has over 600 lines" }
+        FNR == 401 && FILENAME !~ /^tests\// { print FILENAME " has over 400 lines" }
         from && /^[ \t]*#[ \t]*include[ \t]*["<]/ {
             split($0, parts, /["<>]/)
             to = roomOf(name = parts[2])
@@ -75,7 +75,7 @@ frame/store/Beside.h|#include "../platform/Room.h"|:1 does not start from the ro
 frame/store/Small.h|#include <qstring.h>|:1 includes Qt: qstring.h
 END
 rm "$made/app/Room.h" "$made/core/README.md"
-printf '\n%.0s' {1..600} >"$made/masters/Long.cpp"
+printf '\n%.0s' {1..400} >"$made/masters/Long.cpp"
 printf '\n%.0s' {1..601} >"$made/masters/Longer.cpp"
-printf '%s\n' 'app has no source' 'core has no README.md' 'masters/Longer.cpp has over 600 lines' >>"$made/said"
+printf '%s\n' 'app has no source' 'core has no README.md' 'masters/Longer.cpp has over 400 lines' >>"$made/said"
 diff <(LC_ALL=C sort "$made/said") <(breaches "$made")
